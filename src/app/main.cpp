@@ -1,0 +1,29 @@
+#include "app/language.h"
+#include "app/mbemain.h"
+
+#include <QApplication>
+#include <QTranslator>
+
+int main(int argc, char* argv[])
+{
+    QApplication::setStyle(QStringLiteral("Fusion"));
+
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i) {
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    }
+    const Language language = chooseLanguage(arguments);
+
+    QApplication application(argc, argv);
+    QTranslator translator;
+    if (language == Language::Japanese) {
+        loadJapanese(translator, QCoreApplication::applicationDirPath());
+        QCoreApplication::installTranslator(&translator);
+    }
+
+    // Never deleted: ending the program sends nothing to the instruments, and the destructors of the window
+    // and of its link must not change that.
+    auto* window = new MBEMain;
+    window->show();
+    return QApplication::exec();
+}

@@ -1,0 +1,143 @@
+#pragma once
+
+#include "ui_mainwindow.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QMainWindow>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+class aLine;
+class Conditions;
+class GPIB;
+class QFileDialog;
+class QTimer;
+
+/// The station's one window. It owns everything: the form, the settings store, the link to the instruments,
+/// the timers and the program table. Shutters, temperatures and the automatic program are groups of its
+/// methods, each in a source unit of its own folder (shutter/, temperature/, program/).
+///
+/// It is created once and never deleted: at exit nothing is sent to the instruments. Channels are numbered 0
+/// to 8 ("Be", "Ga", "Si", "As4", "Al", "In", "As7", "Main Ch", "Pre Ch"), shutters are the channels 0 to 6.
+/// The signal and the slots keep their order: their places in the meta-object are part of the interface.
+class MBEMain : public QMainWindow, private Ui::MainWindow
+{
+    Q_OBJECT
+
+public:
+    /// Builds the form, loads the settings, starts connecting to the adapter (see adapterAddress()), commands
+    /// all shutters closed and starts polling, in this order.
+    MBEMain();
+    ~MBEMain() override;
+
+signals:
+    /// Declared only; the chart is fed by direct calls.
+    void newT(int ch, qint64 t, double T);
+
+private slots:
+    // shutter/
+    void NewNextShutter();
+    void NewCurrentShutter();
+    void ChangeShutter();
+    void ActionShutter();
+    void AllClose();
+    // temperature/
+    void ActivateCell();
+    void WatchTMP();
+    void RunStopTControll();
+    void newData(int bytes, QByteArray data);
+    // program/
+    void APStart();
+    void APPause();
+    void APOneTick();
+    void APCopy();
+    void APCut();
+    void APPasteUp();
+    void APPasteDown();
+    void APUndo();
+    void APLoad();
+    void APSave();
+    void APClear();
+    void APCheck();
+    void APLoadProg(QString fname);
+    void APSaveProg(QString fname);
+
+private:
+    void setupNames();
+
+    // shutter/
+    void setupShutter();
+
+    // temperature/: the controllers' messages. All are false when nothing was sent.
+    bool SndTMPCtrl(char* msg, int size, bool addBcc, bool waitReply);
+    bool reqTMP(unsigned char channel);
+    bool setTMP(unsigned char channel, double setPointDegC);
+
+    // temperature/: polling and ramps
+    void setupTemperature();
+    void showCellActive(int ch);
+    void requestReading();
+    void awaitReading();
+    void showReading();
+    void stepRamps();
+    void nextPoll();
+    void startStopCell(int ch);
+    void stopCell(int ch);
+    bool anyCellRunning() const;
+    bool rampStep(int ch);
+    void showElapsed();
+    void recordTMP();
+
+    // program/
+    void setupProgram();
+
+    QStringList cellNames;
+    QStringList shutterNames;
+    QVector<double> riseRateLimits; // deg C per minute
+    GPIB* gpib = nullptr;
+    Conditions* conditions = nullptr;
+    qint64 startTime = 0; // ms since the epoch: time zero of the chart and of the temperature record
+
+    // shutter/
+    QString openText;
+    QString closeText;
+    QList<QLabel*> shutterLabels;
+    QList<QToolButton*> currentButtons;
+    QList<QToolButton*> nextButtons;
+    QVector<bool> nextShutterState; // wanted, true = open
+    QVector<bool> currentShutterState; // commanded, true = open
+    QTimer* actionTimer = nullptr;
+
+    // temperature/: the cell panel
+    QString runText;
+    QString stopText;
+    QString activeText;
+    QString notInUseText;
+    QList<QLabel*> cellLabels;
+    QList<QToolButton*> activeButtons;
+    QVector<bool> cellActive;
+    QList<QLabel*> currentLabels;
+    QList<QLineEdit*> targetEdits;
+    QList<QLineEdit*> durationEdits;
+    QList<QToolButton*> runButtons;
+    QList<QLabel*> setPointLabels;
+    QList<QLabel*> elapsedLabels;
+    QVector<bool> cellRunning;
+    QVector<qint64> rampStartMs; // ms since the epoch
+    QVector<qint64> rampNextMs; // ms since the epoch: a set point is due after it
+    QVector<double> rampRate; // deg C per minute, negative when falling
+    QVector<double> rampSetPoint; // deg C, the next one to send
+
+    // temperature/: the polling state machine, one action a tick
+    enum WatchState { Read, AwaitReply, ReplyReady, RampStep, NextChannel };
+    QTimer* watchTimer = nullptr;
+    int watchState = WatchState::Read;
+    int tickCount = 0; // 0 to 299, a full cycle is 3 s
+    int sentTick = 0;
+    int lastRampTick = 0;
+    int pollCh = 0;
+    int rampCh = 0;
+    QByteArray tmpReply;
+};

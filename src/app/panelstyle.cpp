@@ -1,0 +1,24 @@
+#include "app/panelstyle.h"
+
+#include <QAbstractButton>
+
+QString stateStyle(bool on)
+{
+    return on ? QStringLiteral("background-color: rgb(255, 255, 15);")
+              : QStringLiteral("background-color: rgb(185, 185, 105);");
+}
+
+void setStyleOf(QWidget& widget, const QString& style)
+{
+    if (widget.styleSheet() != style) {
+        widget.setStyleSheet(style);
+    }
+}
+
+void showState(QAbstractButton& button, bool on, const QString& text)
+{
+    if (button.text() != text) {
+        button.setText(text);
+    }
+    setStyleOf(button, stateStyle(on));
+}

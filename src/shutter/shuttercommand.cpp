@@ -1,0 +1,32 @@
+#include "shutter/shuttercommand.h"
+
+#include <QtGlobal>
+
+namespace {
+
+constexpr int shutterCount = 7;
+constexpr char escape = '\x1B';
+
+} // namespace
+
+QByteArray shutterCommand(const QVector<bool>& open)
+{
+    int mask = 0;
+    for (int n = 0; n < qMin(open.size(), shutterCount); ++n) {
+        if (open[n]) {
+            mask |= 1 << n;
+        }
+    }
+    QByteArray command;
+    command.append(escape).append(static_cast<char>(mask)).append('\n');
+    return command;
+}
+
+QString shutterLetters(const QVector<bool>& open)
+{
+    QString letters;
+    for (const bool isOpen : open) {
+        letters.append(QLatin1Char(isOpen ? 'o' : 'x'));
+    }
+    return letters;
+}

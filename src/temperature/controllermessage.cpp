@@ -1,0 +1,69 @@
+#include "temperature/controllermessage.h"
+
+namespace ControllerMessage {
+
+namespace {
+
+constexpr char startOfText = '\x02';
+constexpr char endOfText = '\x03';
+constexpr char endOfTransmission = '\x04';
+constexpr char enquiry = '\x05';
+
+QByteArray opening(int channel)
+{
+    QByteArray bytes;
+    bytes.append(endOfTransmission).append('0').append(static_cast<char>('1' + channel));
+    return bytes;
+}
+
+} // namespace
+
+const QByteArray errorReply = QByteArrayLiteral("ER");
+
+QByteArray readRequest(int channel)
+{
+    return opening(channel).append("M1").append(enquiry);
+}
+
+QByteArray setPoint(int channel, double degC)
+{
+    // asprintf writes a decimal point in every locale; printf would follow the machine's.
+    const QByteArray value = QString::asprintf("%06.1f", degC).toLatin1();
+    return opening(channel).append(startOfText).append("S1").append(value).append(endOfText);
+}
+
+bool appendBlockCheck(char* message, int size)
+{
+    int length = 0;
+    char check = 0;
+    while (length < size && message[length] != '\0') {
+        check = static_cast<char>(check ^ message[length]);
+        ++length;
+    }
+    if (length >= size - 1) {
+        return false;
+    }
+    message[length] = check;
+    message[length + 1] = '\0';
+    return true;
+}
+
+bool isReply(int bytes, const QByteArray& line)
+{
+    return bytes == 11 || (bytes == 2 && line == errorReply);
+}
+
+QString shownValue(const QByteArray& reply)
+{
+    if (reply == errorReply) {
+        return unknownValue();
+    }
+    return QString::number(reply.mid(3, 7).toDouble(), 'g', 6);
+}
+
+QString unknownValue()
+{
+    return QStringLiteral("----.-");
+}
+
+} // namespace ControllerMessage

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QByteArray>
+#include <QHostAddress>
+#include <QObject>
+#include <QTcpServer>
+
+class QTcpSocket;
+
+/// A loopback address of this process alone (127.x.y.z), so that tests run side by side although the
+/// adapter's port is always 1234. Never outside of 127.0.0.0/8.
+QString ownLoopbackAddress();
+
+/// Control characters as words: "\x1B\x04\n" reads "<ESC><04><LF>".
+QByteArray readable(const QByteArray& bytes);
+
+/// The far end of the link, played by a test: it listens as an adapter does, awaits bytes and answers.
+class ScriptedAdapter : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Listens on ownLoopbackAddress(), port 1234.
+    ScriptedAdapter();
+
+    QString address() const { return ownLoopbackAddress(); }
+    bool isConnected() const { return client != nullptr; }
+
+    /// True when exactly `bytes` come next; waits 5 s for them at the most. On failure it prints what was
+    /// awaited and what came.
+    bool expect(const QByteArray& bytes);
+
+    /// True when nothing came that was not expected, after what is on its way has arrived.
+    bool expectNothing();
+
+    /// Everything that came and was not expected yet.
+    QByteArray received() const { return unread; }
+    void forget() { unread.clear(); }
+
+    /// Sends `bytes` and lets the program take them in.
+    void send(const QByteArray& bytes);
+
+    /// Cuts the connection; listening goes on.
+    void cut();
+
+private:
+    void accept();
+    void settle();
+
+    QTcpServer server;
+    QTcpSocket* client = nullptr;
+    QByteArray unread;
+};

@@ -1,0 +1,26 @@
+#include "support/testmain.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+int runIsolated(int argc, char* argv[], const std::function<int()>& run)
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    qunsetenv("NELVO_ADAPTER");
+    QStandardPaths::setTestModeEnabled(true);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication application(argc, argv);
+
+    const QString before = QDir::currentPath();
+    QTemporaryDir directory;
+    if (!directory.isValid() || !QDir::setCurrent(directory.path())) {
+        qFatal("no temporary working directory");
+    }
+    const int result = run();
+    QDir::setCurrent(before);
+    return result;
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QObject>
+
+/// While it lives, the station's 10 ms timers are silent: the test drives the ticks itself, by calling the
+/// timers' slots. Other timers run on.
+class HeldTicks : public QObject
+{
+    Q_OBJECT
+
+public:
+    HeldTicks();
+    ~HeldTicks() override;
+
+protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+};
+
+/// While it lives, the program's wall clock stands still and moves only by order.
+class DrivenClock
+{
+public:
+    /// The clock stands at `nowMs` (ms since the epoch).
+    explicit DrivenClock(qint64 nowMs = 1700000000000);
+    ~DrivenClock();
+    DrivenClock(const DrivenClock&) = delete;
+    DrivenClock& operator=(const DrivenClock&) = delete;
+
+    static void advance(qint64 ms);
+    static void set(qint64 nowMs);
+    static qint64 nowMs();
+};
+
+/// Calls the slot `slot` of `object` (public or not) `times` times.
+void callSlot(QObject* object, const char* slot, int times = 1);
