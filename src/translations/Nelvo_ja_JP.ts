@@ -1,4 +1,238 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en">
+<context>
+    <name>MBEMain</name>
+    <message>
+        <source>Be</source>
+        <translation>Be</translation>
+    </message>
+    <message>
+        <source>Ga</source>
+        <translation>Ga</translation>
+    </message>
+    <message>
+        <source>Si</source>
+        <translation>Si</translation>
+    </message>
+    <message>
+        <source>As4</source>
+        <translation>As4</translation>
+    </message>
+    <message>
+        <source>Al</source>
+        <translation>Al</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>In</translation>
+    </message>
+    <message>
+        <source>As7</source>
+        <translation>As7</translation>
+    </message>
+    <message>
+        <source>Main Ch</source>
+        <translation>成長室</translation>
+    </message>
+    <message>
+        <source>Pre Ch</source>
+        <translation>準備室</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉</translation>
+    </message>
+    <message>
+        <source>GPIB shutter controll [%1]</source>
+        <translation>GPIB シャッター制御 [%1]</translation>
+    </message>
+    <message>
+        <source>Setting time [%1] for the cell [%2:%3] is not correct.</source>
+        <translation>セル [%2:%3] の所要時間 [%1] が正しくありません。</translation>
+    </message>
+    <message>
+        <source>The temperature rise up rate should be less than %1 deg-C per min for the cell [%2:%3].</source>
+        <translation>セル [%2:%3] の昇温速度は毎分 %1 ℃ 以下にしてください。</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>使用中</translation>
+    </message>
+    <message>
+        <source>NotInUse</source>
+        <translation>未使用</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>MainWindow</source>
+        <translation>MBE 成長室 操作盤</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>温度</translation>
+    </message>
+    <message>
+        <source>Controll</source>
+        <translation>制御</translation>
+    </message>
+    <message>
+        <source>Cell</source>
+        <translation>セル</translation>
+    </message>
+    <message>
+        <source>Be</source>
+        <translation>Be</translation>
+    </message>
+    <message>
+        <source>Ga</source>
+        <translation>Ga</translation>
+    </message>
+    <message>
+        <source>Si</source>
+        <translation>Si</translation>
+    </message>
+    <message>
+        <source>As</source>
+        <translation>As</translation>
+    </message>
+    <message>
+        <source>Al</source>
+        <translation>Al</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>In</translation>
+    </message>
+    <message>
+        <source>Main Ch</source>
+        <translation>成長室</translation>
+    </message>
+    <message>
+        <source>Pre Ch</source>
+        <translation>準備室</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>使用中</translation>
+    </message>
+    <message>
+        <source>Current [deg C]</source>
+        <translation>現在値 [℃]</translation>
+    </message>
+    <message>
+        <source>0.0</source>
+        <translation>0.0</translation>
+    </message>
+    <message>
+        <source>Target [deg C]</source>
+        <translation>目標値 [℃]</translation>
+    </message>
+    <message>
+        <source>Dulation [min]</source>
+        <translation>所要時間 [分]</translation>
+    </message>
+    <message>
+        <source>10.0</source>
+        <translation>10.0</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Setting Temp. [deg C]</source>
+        <translation>設定値 [℃]</translation>
+    </message>
+    <message>
+        <source>Elapsed Time [min]</source>
+        <translation>経過時間 [分]</translation>
+    </message>
+    <message>
+        <source>Shutter</source>
+        <translation>シャッター</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>現在</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>閉</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>次</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>切替</translation>
+    </message>
+    <message>
+        <source>All Close</source>
+        <translation>全閉</translation>
+    </message>
+    <message>
+        <source>Auto Program</source>
+        <translation>自動プログラム</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Time : </source>
+        <translation>時間 : </translation>
+    </message>
+    <message>
+        <source>0</source>
+        <translation>0</translation>
+    </message>
+    <message>
+        <source>/</source>
+        <translation>/</translation>
+    </message>
+    <message>
+        <source>Total Time : </source>
+        <translation>総時間 : </translation>
+    </message>
+    <message>
+        <source>Rep. Times : </source>
+        <translation>繰返し : </translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>全消去</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>時間計算</translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation>読込</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Time Chart</source>
+        <translation>タイムチャート</translation>
+    </message>
+</context>
 </TS>
