@@ -9,6 +9,18 @@ namespace {
 constexpr uint longestText = 1000;
 constexpr qint64 longestLine = 160000;
 
+// A refused socket keeps the bytes that were queued for it and the notifier that flushes them: it would try
+// to write them without a connection, and print a warning. Aborting drops both. A connection that was up and
+// is lost reports its error before it counts as unconnected, so lines that have arrived are still delivered.
+void dropUnsentWhenRefused(QTcpSocket& socket)
+{
+    QObject::connect(&socket, &QAbstractSocket::errorOccurred, &socket, [&socket] {
+        if (socket.state() == QAbstractSocket::UnconnectedState) {
+            socket.abort();
+        }
+    });
+}
+
 } // namespace
 
 GPIB::GPIB() = default;
@@ -32,6 +44,7 @@ void GPIB::connectAdapter(const QString& host, int port)
     }
     socket = new QTcpSocket;
     connect(socket, SIGNAL(readyRead()), this, SLOT(rcvMsg()), Qt::UniqueConnection);
+    dropUnsentWhenRefused(*socket);
     socket->connectToHost(
         host, static_cast<quint16>(port), QIODevice::ReadWrite, QAbstractSocket::AnyIPProtocol);
     // A shutter command must not wait for the acknowledgement of what was sent before it. Only an address
@@ -127,7 +140,9 @@ void GPIB::rcvMsg()
 
 void GPIB::write(const QByteArray& bytes)
 {
-    if (socket != nullptr) {
+    // The socket closes itself when its connection breaks while bytes are on their way; it would complain
+    // about every later one.
+    if (socket != nullptr && socket->isOpen()) {
         socket->write(bytes);
     }
 }
