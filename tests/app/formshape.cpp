@@ -1,0 +1,72 @@
+#include "app/formtable.h"
+
+#include <QGridLayout>
+#include <QMainWindow>
+
+namespace {
+
+QString inWords(const QString& kind, const QString& place, const QString& frame)
+{
+    return QStringLiteral("%1; %2; %3").arg(kind, place, frame);
+}
+
+QString placeInWords(const char* layout, int row, int column, int rowSpan, int columnSpan)
+{
+    if (qstrlen(layout) == 0) {
+        return QStringLiteral("in no layout of the table");
+    }
+    return QStringLiteral("%1 (%2, %3) %4 x %5")
+        .arg(QLatin1String(layout))
+        .arg(row)
+        .arg(column)
+        .arg(rowSpan)
+        .arg(columnSpan);
+}
+
+QString frameInWords(int shape, int shadow, int lineWidth)
+{
+    return QStringLiteral("frame %1, shadow %2, line %3").arg(shape).arg(shadow).arg(lineWidth);
+}
+
+QString builtPlace(const QMainWindow& window, QWidget* widget, const char* name)
+{
+    if (qstrlen(name) == 0) {
+        return placeInWords(name, 0, 0, 1, 1);
+    }
+    auto* layout = window.findChild<QLayout*>(QLatin1String(name));
+    const int item = layout == nullptr ? -1 : layout->indexOf(widget);
+    if (item < 0) {
+        return QStringLiteral("not in %1").arg(QLatin1String(name));
+    }
+    int row = 0;
+    int column = item;
+    int rowSpan = 1;
+    int columnSpan = 1;
+    if (const auto* grid = qobject_cast<QGridLayout*>(layout)) {
+        grid->getItemPosition(item, &row, &column, &rowSpan, &columnSpan);
+    }
+    return placeInWords(name, row, column, rowSpan, columnSpan);
+}
+
+} // namespace
+
+QString awaitedShape(const FormWidget& awaited)
+{
+    return inWords(QLatin1String(awaited.kind),
+        placeInWords(awaited.layout, awaited.row, awaited.column, awaited.rowSpan, awaited.columnSpan),
+        frameInWords(awaited.shape, awaited.shadow, awaited.lineWidth));
+}
+
+QString builtShape(const QMainWindow& window, const FormWidget& awaited)
+{
+    const auto found = window.findChildren<QWidget*>(awaited.name);
+    if (found.size() != 1) {
+        return QStringLiteral("%1 widgets of this name").arg(found.size());
+    }
+    QWidget* widget = found.first();
+    const auto* frame = qobject_cast<const QFrame*>(widget);
+    return inWords(QLatin1String(widget->metaObject()->className()),
+        builtPlace(window, widget, awaited.layout),
+        frame == nullptr ? frameInWords(QFrame::NoFrame, QFrame::Plain, 1)
+                         : frameInWords(frame->frameShape(), frame->frameShadow(), frame->lineWidth()));
+}
