@@ -40,6 +40,11 @@ void Conditions::load(const QString& fname)
     compacted.setDirectWriteFallback(true);
     if (compacted.open(QIODevice::WriteOnly | QIODevice::Text)) {
         writeAll(compacted, conds);
+        // Asked here, because commit() does not look at how its own last flush went: on a full disk it would
+        // replace the file by the part that fitted.
+        if (!compacted.flush()) {
+            compacted.cancelWriting();
+        }
         compacted.commit();
     }
 }
