@@ -1,0 +1,87 @@
+#include "app/language.h"
+
+#include "support/testmain.h"
+
+#include <QFile>
+#include <QTranslator>
+
+class LanguageTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void chosenFromTheArguments_data();
+    void chosenFromTheArguments();
+    void catalogueLiesAtTheResourceRoot();
+    void directoryPlaysNoPartInFindingTheCatalogue_data();
+    void directoryPlaysNoPartInFindingTheCatalogue();
+};
+
+namespace {
+
+QStringList words(const char* text)
+{
+    return QString::fromLatin1(text).split(QLatin1Char(' '));
+}
+
+} // namespace
+
+void LanguageTest::chosenFromTheArguments_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<bool>("english");
+
+    QTest::newRow("no arguments at all") << QStringList() << false;
+    QTest::newRow("no switch: Japanese") << words("Nelvo") << false;
+    QTest::newRow("-j") << words("Nelvo -j") << false;
+    QTest::newRow("-e") << words("Nelvo -e") << true;
+    QTest::newRow("last wins: -e -j") << words("Nelvo -e -j") << false;
+    QTest::newRow("last wins: -j -e") << words("Nelvo -j -e") << true;
+    QTest::newRow("last wins: -e -j -e") << words("Nelvo -e -j -e") << true;
+    QTest::newRow("upper case is no switch") << words("Nelvo -E") << false;
+    QTest::newRow("upper-case J does not undo -e") << words("Nelvo -e -J") << true;
+    QTest::newRow("anywhere among other arguments") << words("Nelvo x --style -e y") << true;
+    QTest::newRow("longer words are no switch") << words("Nelvo -english -ej --e e -e=1") << false;
+    QTest::newRow("a switch with a space is none")
+        << QStringList{words("Nelvo")[0], QStringLiteral("-e ")} << false;
+    QTest::newRow("Nelvoe") << words("Nelvoe") << true;
+    QTest::newRow("Nelvoe with -j") << words("Nelvoe -j") << true;
+    QTest::newRow("in a directory's name") << words("/opt/Nelvoe-1.0/Nelvo -j") << true;
+    QTest::newRow("in the middle of the file's name") << words("C:\\lab\\MyNelvoes.exe -j") << true;
+    QTest::newRow("other case is another name") << words("/opt/nelvoe/NELVOE") << false;
+    QTest::newRow("only the program's own path counts") << words("Nelvo Nelvoe /opt/Nelvoe") << false;
+    QTest::newRow("a switch in the program's place is none") << words("-e") << false;
+}
+
+void LanguageTest::chosenFromTheArguments()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(bool, english);
+    QCOMPARE(chooseLanguage(arguments) == Language::English, english);
+}
+
+void LanguageTest::catalogueLiesAtTheResourceRoot()
+{
+    QTranslator translator;
+    QVERIFY(loadJapanese(translator, QString()));
+    QVERIFY(QFile::exists(QStringLiteral(":/Nelvo_ja_JP.qm")));
+}
+
+void LanguageTest::directoryPlaysNoPartInFindingTheCatalogue_data()
+{
+    QTest::addColumn<QString>("directory");
+    QTest::newRow("working directory") << QStringLiteral(".");
+    QTest::newRow("missing directory") << QStringLiteral("/no/such/directory");
+    QTest::newRow("application directory") << QCoreApplication::applicationDirPath();
+}
+
+void LanguageTest::directoryPlaysNoPartInFindingTheCatalogue()
+{
+    QFETCH(QString, directory);
+    QTranslator translator;
+    QVERIFY(loadJapanese(translator, directory));
+}
+
+NELVO_TEST_MAIN(LanguageTest)
+
+#include "language.moc"
