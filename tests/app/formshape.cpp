@@ -33,7 +33,7 @@ QString builtPlace(const QMainWindow& window, QWidget* widget, const char* name)
     if (qstrlen(name) == 0) {
         return placeInWords(name, 0, 0, 1, 1);
     }
-    auto* layout = window.findChild<QLayout*>(QLatin1String(name));
+    auto* layout = layoutNamed(window, name);
     const int item = layout == nullptr ? -1 : layout->indexOf(widget);
     if (item < 0) {
         return QStringLiteral("not in %1").arg(QLatin1String(name));
@@ -50,6 +50,40 @@ QString builtPlace(const QMainWindow& window, QWidget* widget, const char* name)
 
 } // namespace
 
+bool isOfTheForm(const QMainWindow& window, const QObject& object)
+{
+    const QObject* chart = window.findChild<QWidget*>(QStringLiteral("Tshow"));
+    for (const QObject* holder = object.parent(); holder != nullptr; holder = holder->parent()) {
+        if (holder == chart) {
+            return false;
+        }
+    }
+    return true;
+}
+
+QList<QWidget*> widgetsNamed(const QMainWindow& window, const QString& name)
+{
+    QList<QWidget*> widgets;
+    const auto found = window.findChildren<QWidget*>(name);
+    for (QWidget* widget : found) {
+        if (isOfTheForm(window, *widget)) {
+            widgets.append(widget);
+        }
+    }
+    return widgets;
+}
+
+QLayout* layoutNamed(const QMainWindow& window, const char* name)
+{
+    const auto found = window.findChildren<QLayout*>(QLatin1String(name));
+    for (QLayout* layout : found) {
+        if (isOfTheForm(window, *layout)) {
+            return layout;
+        }
+    }
+    return nullptr;
+}
+
 QString awaitedShape(const FormWidget& awaited)
 {
     return inWords(QLatin1String(awaited.kind),
@@ -59,7 +93,7 @@ QString awaitedShape(const FormWidget& awaited)
 
 QString builtShape(const QMainWindow& window, const FormWidget& awaited)
 {
-    const auto found = window.findChildren<QWidget*>(awaited.name);
+    const auto found = widgetsNamed(window, awaited.name);
     if (found.size() != 1) {
         return QStringLiteral("%1 widgets of this name").arg(found.size());
     }

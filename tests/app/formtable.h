@@ -4,7 +4,10 @@
 #include <QList>
 #include <QString>
 
+class QLayout;
 class QMainWindow;
+class QObject;
+class QWidget;
 
 /// What the main window's form holds: the test's own account of it, one entry a widget.
 struct FormWidget
@@ -36,6 +39,14 @@ struct FormLayout
 
 QList<FormWidget> formWidgets();
 QList<FormLayout> formLayouts();
+
+/// Whether `object` belongs to the form `window` was built from, and not to the inside of the chart.
+bool isOfTheForm(const QMainWindow& window, const QObject& object);
+
+/// The widgets and the layout of that name on the form. The chart has names of its own, some of them the
+/// same.
+QList<QWidget*> widgetsNamed(const QMainWindow& window, const QString& name);
+QLayout* layoutNamed(const QMainWindow& window, const char* name);
 
 /// Kind, place and frame of a widget in words, as the table awaits them.
 QString awaitedShape(const FormWidget& awaited);

@@ -38,21 +38,6 @@ QString shownText(const QWidget& widget)
     return widget.property("text").toString();
 }
 
-QLayout* findLayout(const QMainWindow& window, const char* name)
-{
-    return window.findChild<QLayout*>(QLatin1String(name));
-}
-
-bool isInside(const QObject* object, const QObject* ancestor)
-{
-    for (; object != nullptr; object = object->parent()) {
-        if (object == ancestor) {
-            return true;
-        }
-    }
-    return false;
-}
-
 } // namespace
 
 class MainWindowForm : public QObject
@@ -116,7 +101,7 @@ void MainWindowForm::layout()
     QFETCH(int, index);
     const FormLayout awaited = formLayouts().at(index);
 
-    QLayout* layout = findLayout(built->window, awaited.name);
+    QLayout* layout = layoutNamed(built->window, awaited.name);
     QVERIFY(layout != nullptr);
     QCOMPARE(layout->metaObject()->className(), awaited.kind);
     QCOMPARE(layout->parent()->objectName(), QLatin1String(awaited.holder));
@@ -154,9 +139,9 @@ void MainWindowForm::holdsNothingElse()
     const auto children = built->window.findChildren<QObject*>();
     for (const QObject* child : children) {
         const QString name = child->objectName();
-        const bool ofTheChart = child != built->form.Tshow && isInside(child, built->form.Tshow);
         if ((child->isWidgetType() || qobject_cast<const QLayout*>(child) != nullptr) && !name.isEmpty()
-            && !ofTheChart && !known.contains(name) && !toolkit.match(name).hasMatch()) {
+            && isOfTheForm(built->window, *child) && !known.contains(name)
+            && !toolkit.match(name).hasMatch()) {
             strangers.append(name);
         }
     }

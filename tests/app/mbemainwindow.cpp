@@ -62,13 +62,11 @@ private slots:
     void init();
     void cleanup();
 
-    void keepsTheFormsPlaces_data();
     void keepsTheFormsPlaces();
     void opensOnTheTimeChartTab();
     void temperatureControlIsOn();
     void nineNamesInOrder();
     void buttonsShowTheStartingState();
-    void riseRateIsLimitedAlikeForEveryChannel_data();
     void riseRateIsLimitedAlikeForEveryChannel();
     void missingStateFileIsCreatedEmpty();
     void stateFileIsCompactedAndTakenOver();
@@ -105,21 +103,12 @@ void MBEMainWindow::cleanup()
     clock.reset();
 }
 
-void MBEMainWindow::keepsTheFormsPlaces_data()
-{
-    QTest::addColumn<int>("index");
-    const QList<FormWidget> table = formWidgets();
-    for (int i = 0; i < table.size(); ++i) {
-        QTest::newRow(qPrintable(table[i].name)) << i;
-    }
-}
-
 void MBEMainWindow::keepsTheFormsPlaces()
 {
-    QFETCH(int, index);
     build();
-    const FormWidget awaited = formWidgets().at(index);
-    QCOMPARE(builtShape(*window, awaited), awaitedShape(awaited));
+    for (const FormWidget& awaited : formWidgets()) {
+        QCOMPARE(builtShape(*window, awaited), awaitedShape(awaited));
+    }
 }
 
 void MBEMainWindow::opensOnTheTimeChartTab()
@@ -165,33 +154,26 @@ void MBEMainWindow::buttonsShowTheStartingState()
     }
 }
 
-void MBEMainWindow::riseRateIsLimitedAlikeForEveryChannel_data()
-{
-    QTest::addColumn<int>("number");
-    for (int number = 1; number <= 9; ++number) {
-        QTest::newRow(qPrintable(numbered("channel ", number))) << number;
-    }
-}
-
 void MBEMainWindow::riseRateIsLimitedAlikeForEveryChannel()
 {
-    QFETCH(int, number);
     build();
-    auto& run = find<QAbstractButton>(numbered("RunT", number));
-    find<QLabel>(numbered("CDeg", number)).setText(QStringLiteral("100"));
-    find<QLineEdit>(numbered("TDeg", number)).setText(QStringLiteral("600.1"));
-    find<QLineEdit>(numbered("DTime", number)).setText(QStringLiteral("10"));
-    run.click();
-    QCOMPARE(run.text(), QStringLiteral("Run"));
-    QCOMPARE(window->statusBar()->currentMessage(),
-        QStringLiteral(
-            "The temperature rise up rate should be less than 50 deg-C per min for the cell [%1:%2].")
-            .arg(number - 1)
-            .arg(find<QLabel>(numbered("CName", number)).text()));
+    for (int number = 1; number <= 9; ++number) {
+        auto& run = find<QAbstractButton>(numbered("RunT", number));
+        find<QLabel>(numbered("CDeg", number)).setText(QStringLiteral("100"));
+        find<QLineEdit>(numbered("TDeg", number)).setText(QStringLiteral("600.1"));
+        find<QLineEdit>(numbered("DTime", number)).setText(QStringLiteral("10"));
+        run.click();
+        QCOMPARE(run.text(), QStringLiteral("Run"));
+        QCOMPARE(window->statusBar()->currentMessage(),
+            QStringLiteral(
+                "The temperature rise up rate should be less than 50 deg-C per min for the cell [%1:%2].")
+                .arg(number - 1)
+                .arg(find<QLabel>(numbered("CName", number)).text()));
 
-    find<QLineEdit>(numbered("TDeg", number)).setText(QStringLiteral("600"));
-    run.click();
-    QCOMPARE(run.text(), QStringLiteral("Stop"));
+        find<QLineEdit>(numbered("TDeg", number)).setText(QStringLiteral("600"));
+        run.click();
+        QCOMPARE(run.text(), QStringLiteral("Stop"));
+    }
 }
 
 void MBEMainWindow::missingStateFileIsCreatedEmpty()

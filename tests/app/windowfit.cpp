@@ -90,7 +90,7 @@ void WindowFit::everyTextHasRoom()
 
     QStringList cramped;
     for (const FormWidget& listed : formWidgets()) {
-        const auto& widget = *window.findChild<QWidget*>(listed.name);
+        const QWidget& widget = *widgetsNamed(window, listed.name).first();
         const int needed = widget.fontMetrics().horizontalAdvance(textOf(widget));
         // What lies on the tab in the background has not been laid out.
         if (widget.isVisibleTo(&window) && needed > roomIn(widget)) {
