@@ -1,0 +1,73 @@
+#pragma once
+
+#include "simulator/adapterparser.h"
+#include "simulator/faults.h"
+#include "simulator/options.h"
+#include "simulator/rack.h"
+#include "simulator/sendqueue.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTcpServer>
+#include <QTimer>
+
+#include <functional>
+
+class QTcpSocket;
+
+namespace Chamber {
+
+/// The socket end of the chamber: takes one client at a time, hands its lines to the rack, and sends the
+/// replies as the faults have it.
+///
+/// Every client finds a fresh adapter; temperatures, shutters and silent controllers stay from client to
+/// client. A second client beside the first gets the line "adapter in use" and is shown out.
+class ChamberServer : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Takes one event, for example "shutters oxxoxxx".
+    using EventSink = std::function<void(const QByteArray& event)>;
+
+    ChamberServer(const Options& chosen, EventSink sink);
+    ~ChamberServer() override;
+
+    /// Listens where the options say. False when that cannot be, errorString() then tells why.
+    bool listen();
+    QString errorString() const { return server.errorString(); }
+
+    /// Where it listens; the port that was taken when the options left it open.
+    quint16 port() const { return server.serverPort(); }
+
+    const Rack& instruments() const { return rack; }
+
+signals:
+    /// The client is gone, of its own will or by a fault.
+    void clientLeft();
+
+private:
+    void acceptClients();
+    void turnAway(QTcpSocket* second);
+    void receive();
+    void take(const AdapterLine& line);
+    void deliver(const Rack::Outcome& outcome);
+    void obey(const Delivery& delivery);
+    void flush();
+    void releaseClient();
+    double modelSec() const;
+
+    const Options options;
+    const EventSink log;
+    Rack rack;
+    Faults faults;
+    AdapterParser parser;
+    SendQueue queue;
+    QElapsedTimer clock;
+    QTimer dueTimer;
+    QTcpServer server;
+    QTcpSocket* client = nullptr; ///< owned by the server; null while nobody is there
+    bool halfOpen = false;
+};
+
+} // namespace Chamber

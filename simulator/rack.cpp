@@ -1,0 +1,72 @@
+#include "simulator/rack.h"
+
+namespace Chamber {
+
+namespace {
+
+constexpr int longestShown = 60;
+
+/// A client's bytes for a log line: one line, whatever they are.
+QByteArray printable(const QByteArray& bytes)
+{
+    QByteArray text;
+    for (const char byte : bytes.left(longestShown)) {
+        const auto code = static_cast<uchar>(byte);
+        if (code < 0x20 || code >= 0x7F) {
+            text += '<' + QByteArray(1, byte).toHex().toUpper() + '>';
+        } else {
+            text += byte;
+        }
+    }
+    return bytes.size() > longestShown ? text + "..." : text;
+}
+
+} // namespace
+
+Rack::Rack(quint64 seed)
+    : controllers(seed)
+{
+}
+
+Rack::Outcome Rack::take(const AdapterLine& line, double modelSec)
+{
+    switch (line.kind) {
+    case AdapterLine::Kind::Command:
+        return command(line.bytes);
+    case AdapterLine::Kind::Message:
+        return message(line.bytes, modelSec);
+    case AdapterLine::Kind::Overlong:
+        break;
+    }
+    return {"ignored a line of more than " + QByteArray::number(AdapterParser::longestLine) + " bytes", {}, 0,
+        false};
+}
+
+Rack::Outcome Rack::command(const QByteArray& line)
+{
+    const Adapter::CommandResult result = adapter.command(line);
+    if (!result.understood) {
+        return {"ignored " + printable(line), {}, 0, false};
+    }
+    return {{}, result.answer, 0, false};
+}
+
+Rack::Outcome Rack::message(const QByteArray& data, double modelSec)
+{
+    const BusMessage sent = adapter.message(data);
+    if (adapter.address() == ShutterController::gpibAddress) {
+        return {shutterController.take(sent), {}, 0, false};
+    }
+    if (adapter.address() != TemperatureControllers::gpibAddress) {
+        return {
+            "rejected address " + QByteArray::number(adapter.address()) + " nobody is there", {}, 0, false};
+    }
+    const TemperatureControllers::Answer answer = controllers.take(sent, modelSec);
+    if (!adapter.readsAfterWrite()) {
+        // The answer waits on the bus and nobody fetches it; the next message throws it away.
+        return {answer.event, {}, answer.unit, false};
+    }
+    return {answer.event, answer.line, answer.unit, true};
+}
+
+} // namespace Chamber

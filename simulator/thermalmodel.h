@@ -1,0 +1,45 @@
+#pragma once
+
+#include "simulator/randomsource.h"
+
+#include <array>
+
+namespace Chamber {
+
+/// The nine heaters: 0 to 6 are the source cells, 7 and 8 the substrates. Each follows its set point with a
+/// first-order lag. Temperatures are in deg C, times in s of the model on one scale that never runs back.
+class ThermalModel
+{
+public:
+    static constexpr int cellCount = 9;
+    static constexpr double startDegC = 25.0;
+    static constexpr double sourceLagSec = 40.0;
+    static constexpr double substrateLagSec = 90.0;
+    static constexpr double noiseDegC = 0.05; ///< standard deviation of a measurement
+
+    /// All cells rest at startDegC with that as their set point. `seed` determines the noise.
+    explicit ThermalModel(quint64 seed);
+
+    /// From `nowSec` on the cell heads for `degC`.
+    void setSetPoint(int cell, double degC, double nowSec);
+    double setPoint(int cell) const;
+
+    /// The cell's true temperature at `nowSec`: exact, however long ago it was last asked for. Before the
+    /// last change of the set point it is that of the change.
+    double temperature(int cell, double nowSec) const;
+
+    /// A measurement at `nowSec`: the true temperature and noise, which is never more than six noiseDegC.
+    double measure(int cell, double nowSec);
+
+private:
+    struct Cell
+    {
+        double fromDegC = startDegC;
+        double fromSec = 0.0;
+        double setPointDegC = startDegC;
+    };
+    std::array<Cell, cellCount> cells;
+    RandomSource noise;
+};
+
+} // namespace Chamber
