@@ -1,0 +1,39 @@
+#include "chart/chartview.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr double wheelFactor = 0.9;
+
+double zoomed(double span, bool closer)
+{
+    return closer ? span * wheelFactor : span / wheelFactor;
+}
+
+} // namespace
+
+void ChartView::zoomX(bool closer)
+{
+    xSpan = std::clamp(zoomed(xSpan, closer), shortestXSpan, longestXSpan);
+}
+
+void ChartView::zoomY(bool closer, double fixed)
+{
+    const double before = ySpan;
+    ySpan = std::max(zoomed(before, closer), shortestYSpan);
+    const double growth = (ySpan - before) / before;
+    yOffset += (fixed + yDragShift + yOffset) * growth;
+}
+
+void ChartView::finishXDrag()
+{
+    xOffset = std::max(xOffset + xDragShift, 0.0);
+    xDragShift = 0.0;
+}
+
+void ChartView::finishYDrag()
+{
+    yOffset += yDragShift;
+    yDragShift = 0.0;
+}
