@@ -1,6 +1,7 @@
 #include "chart/chartview.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -23,7 +24,24 @@ void ChartView::zoomY(bool closer, double fixed)
     const double before = ySpan;
     ySpan = std::max(zoomed(before, closer), shortestYSpan);
     const double growth = (ySpan - before) / before;
-    yOffset += (fixed + yDragShift + yOffset) * growth;
+    const double shift = (fixed + yDragShift + yOffset) * growth;
+    if (std::isfinite(shift)) {
+        yOffset += shift;
+    }
+}
+
+void ChartView::dragX(double shiftSec)
+{
+    if (std::isfinite(shiftSec)) {
+        xDragShift = shiftSec;
+    }
+}
+
+void ChartView::dragY(double shiftDegC)
+{
+    if (std::isfinite(shiftDegC)) {
+        yDragShift = shiftDegC;
+    }
 }
 
 void ChartView::finishXDrag()

@@ -27,6 +27,10 @@ struct ChartView
     /// One wheel step on the temperature axis; the temperature `fixed` keeps its pixel. There is no upper
     /// limit: far out, the offset outgrows what a double resolves, and only reset() leads back.
     void zoomY(bool closer, double fixed);
+    /// Shifts the view while a drag lasts. What is not finite (there was no paint yet to tell pixels by) is
+    /// ignored, here and by zoomY().
+    void dragX(double shiftSec);
+    void dragY(double shiftDegC);
     /// Ends a drag along the time axis. The right edge never rests later than now.
     void finishXDrag();
     void finishYDrag();

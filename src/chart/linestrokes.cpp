@@ -37,7 +37,7 @@ bool clip(double start, double delta, double limit, double& from, double& to)
 }
 
 // The vertical lines of the columns `from` to `to`, which share the rows `core`: the shared part between the
-// middle lines of the outer columns is one rectangle.
+// middle lines of the outer columns is one rectangle, and lines do its rim, where the pen's width counts.
 void addBand(const QVector<PixelColumn>& columns, int from, int to, const Rows& core, LineStrokes& strokes)
 {
     const QLine left = verticalLine(columns.at(from).x, core.top, core.bottom);
@@ -49,12 +49,8 @@ void addBand(const QVector<PixelColumn>& columns, int from, int to, const Rows& 
             strokes.lines.append(verticalLine(column.x, column.top, column.bottom));
             continue;
         }
-        if (column.top < core.top) {
-            strokes.lines.append(verticalLine(column.x, column.top, core.top));
-        }
-        if (column.bottom > core.bottom) {
-            strokes.lines.append(verticalLine(column.x, core.bottom, column.bottom));
-        }
+        strokes.lines.append(verticalLine(column.x, column.top, core.top + 1.0));
+        strokes.lines.append(verticalLine(column.x, core.bottom - 1.0, column.bottom));
     }
 }
 

@@ -45,20 +45,18 @@ private:
     {
         int inside = first;
         int outside = end;
-        int step = 1;
         int probe = std::min(first + guess, end - 1);
-        while (outside - inside > 1) {
+        for (int step = 1; outside - inside > 1; step = std::min(2 * step, 1 << 24)) {
+            if (inColumn(probe, x)) {
+                inside = probe;
+                probe = inside + step;
+            } else {
+                outside = probe;
+                probe = outside - step;
+            }
             if (probe <= inside || probe >= outside) {
                 probe = inside + (outside - inside) / 2;
             }
-            if (inColumn(probe, x)) {
-                inside = probe;
-                probe = step < outside - inside ? inside + step : outside - 1;
-            } else {
-                outside = probe;
-                probe = step < outside - inside ? outside - step : inside + 1;
-            }
-            step *= 2;
         }
         guess = inside - first + 1;
         return inside;

@@ -74,9 +74,9 @@ void TShowView::mouseMoveEvent(QMouseEvent* ev)
         return;
     }
     if (mouse.isPlain(Qt::LeftButton)) {
-        view.xDragShift = coord.dataX(mouse.current().x()) - coord.dataX(mouse.pressPosition().x());
+        view.dragX(coord.dataX(mouse.current().x()) - coord.dataX(mouse.pressPosition().x()));
     } else if (mouse.isPlain(Qt::RightButton)) {
-        view.yDragShift = coord.dataY(mouse.current().y()) - coord.dataY(mouse.pressPosition().y());
+        view.dragY(coord.dataY(mouse.current().y()) - coord.dataY(mouse.pressPosition().y()));
     }
     update();
 }
