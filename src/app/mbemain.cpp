@@ -4,7 +4,9 @@
 #include "app/conditions.h"
 #include "app/wallclock.h"
 #include "gpib/gpib.h"
+#include "program/aline.h"
 
+#include <QFileDialog>
 #include <QTimer>
 
 // The order below is the order in which the parts of the station come alive; each step needs those before it.
@@ -32,6 +34,11 @@ MBEMain::MBEMain()
 // The station itself never deletes its window; tests, which build many, do.
 MBEMain::~MBEMain()
 {
+    delete progTimer;
+    qDeleteAll(progLines);
+    delete clipLine;
+    delete saveDialog;
+    delete loadDialog;
     delete watchTimer;
     delete actionTimer;
     delete gpib;

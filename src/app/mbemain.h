@@ -1,5 +1,6 @@
 #pragma once
 
+#include "program/blockcursor.h"
 #include "ui_mainwindow.h"
 
 #include <QByteArray>
@@ -90,8 +91,21 @@ private:
     void showElapsed();
     void recordTMP();
 
-    // program/
+    // program/: the table and its files
     void setupProgram();
+    void setupProgramDialogs();
+    void setupProgramHeader();
+    void addProgramHeader(const QString& text, int row, int column, int columns, const QString& style);
+    int senderLine() const;
+    void copyLine(const aLine* src, aLine* dst);
+    void pasteAt(int row);
+
+    // program/: playing it
+    void setPaused(bool paused);
+    void endStep();
+    void startStep(qint64 nowMs);
+    void startRamps(const aLine& line);
+    void showGroupCount();
 
     QStringList cellNames;
     QStringList shutterNames;
@@ -140,4 +154,25 @@ private:
     int pollCh = 0;
     int rampCh = 0;
     QByteArray tmpReply;
+
+    // program/: the table, 200 rows for the life of the window
+    QFileDialog* loadDialog = nullptr;
+    QFileDialog* saveDialog = nullptr;
+    QList<aLine*> progLines;
+    aLine* clipLine = nullptr; // the row held by copy and cut, never shown
+
+    // program/: the player, at most one step a tick
+    enum StepPhase { ToStart, Playing };
+    QString progRunText;
+    QString progStopText;
+    QString progResumeText;
+    QString progPauseText;
+    QTimer* progTimer = nullptr;
+    bool progRunning = false;
+    bool progPaused = false;
+    qint64 progStartMs = 0; // ms since the epoch
+    qint64 stepStartMs = 0; // ms since the epoch
+    double stepTime = 0.0; // s, as read when the step started
+    int stepPhase = StepPhase::ToStart;
+    BlockCursor progWalk; // curStep, groupTimes, groupCount, groupStart
 };

@@ -1,17 +1,157 @@
-#include "app/mbemain.h"
+// The program table: its rows, its bar of buttons, and editing it row by row.
 
-void MBEMain::setupProgram() { }
-void MBEMain::APStart() { }
-void MBEMain::APPause() { }
-void MBEMain::APOneTick() { }
-void MBEMain::APCopy() { }
-void MBEMain::APCut() { }
-void MBEMain::APPasteUp() { }
-void MBEMain::APPasteDown() { }
-void MBEMain::APUndo() { }
-void MBEMain::APLoad() { }
-void MBEMain::APSave() { }
-void MBEMain::APClear() { }
-void MBEMain::APCheck() { }
-void MBEMain::APLoadProg(QString) { }
-void MBEMain::APSaveProg(QString) { }
+#include "app/debugline.h"
+#include "app/mbemain.h"
+#include "app/panelstyle.h"
+#include "program/aline.h"
+
+#include <QTimer>
+
+namespace {
+
+constexpr int rowCount = 200;
+constexpr int headerRows = 2;
+
+} // namespace
+
+void MBEMain::setupProgram()
+{
+    setupProgramDialogs();
+
+    clipLine = new aLine;
+    Program->setHorizontalSpacing(3);
+    Program->setVerticalSpacing(4);
+    setupProgramHeader();
+    for (int k = 0; k < rowCount; ++k) {
+        auto* line = new aLine;
+        line->placeInGrid(Program, k + headerRows);
+        line->setStep(k + 1);
+        connect(line, SIGNAL(copy()), this, SLOT(APCopy()), Qt::UniqueConnection);
+        connect(line, SIGNAL(cut()), this, SLOT(APCut()), Qt::UniqueConnection);
+        connect(line, SIGNAL(pasteUp()), this, SLOT(APPasteUp()), Qt::UniqueConnection);
+        connect(line, SIGNAL(pasteDown()), this, SLOT(APPasteDown()), Qt::UniqueConnection);
+        connect(line, SIGNAL(undo()), this, SLOT(APUndo()), Qt::UniqueConnection);
+        progLines.append(line);
+    }
+
+    progRunText = tr("Run");
+    progStopText = tr("Stop");
+    progResumeText = tr("Resume");
+    progPauseText = tr("Pause");
+    showState(*ProgRun, false, progRunText);
+    showState(*ProgPause, false, progPauseText);
+    progRunning = false;
+    progPaused = false;
+
+    progTimer = new QTimer;
+    progTimer->setTimerType(Qt::PreciseTimer);
+    progTimer->setInterval(10);
+    connect(ProgRun, SIGNAL(clicked()), this, SLOT(APStart()), Qt::UniqueConnection);
+    connect(ProgPause, SIGNAL(clicked()), this, SLOT(APPause()), Qt::UniqueConnection);
+    connect(progTimer, SIGNAL(timeout()), this, SLOT(APOneTick()), Qt::UniqueConnection);
+    connect(ProgLoad, SIGNAL(clicked()), this, SLOT(APLoad()), Qt::UniqueConnection);
+    connect(ProgSave, SIGNAL(clicked()), this, SLOT(APSave()), Qt::UniqueConnection);
+    connect(ProgClear, SIGNAL(clicked()), this, SLOT(APClear()), Qt::UniqueConnection);
+    connect(ProgCheck, SIGNAL(clicked()), this, SLOT(APCheck()), Qt::UniqueConnection);
+}
+
+void MBEMain::setupProgramHeader()
+{
+    const QString cellStyle = QStringLiteral("background-color: rgb(240, 255, 240);");
+    const QString substrateStyle = QStringLiteral("background-color: rgb(255, 240, 240);");
+    const QString sequenceStyle = QStringLiteral("background-color: rgb(240, 250, 255);");
+
+    addProgramHeader(tr("Cell Tmp. and Open/Close"), 0, 1, 7, cellStyle);
+    addProgramHeader(tr("Sub. Tmp."), 0, 8, 2, substrateStyle);
+    addProgramHeader(tr("Seq. Ctrl."), 0, 10, 3, sequenceStyle);
+
+    addProgramHeader(tr("Step"), 1, 0, 1, sequenceStyle);
+    for (int n = 0; n < clipLine->shutterCount(); ++n) {
+        addProgramHeader(cellNames[n], 1, n + 1, 1, cellStyle);
+    }
+    addProgramHeader(tr("Main Ch"), 1, 8, 1, substrateStyle);
+    addProgramHeader(tr("Pre Ch"), 1, 9, 1, substrateStyle);
+    addProgramHeader(tr("Time[sec]"), 1, 10, 1, sequenceStyle);
+    addProgramHeader(tr("Group"), 1, 11, 1, sequenceStyle);
+    addProgramHeader(tr("Times"), 1, 12, 1, sequenceStyle);
+}
+
+void MBEMain::addProgramHeader(const QString& text, int row, int column, int columns, const QString& style)
+{
+    auto* heading = new QLabel(text);
+    heading->setFrameShape(QFrame::StyledPanel);
+    heading->setAlignment(Qt::AlignHCenter);
+    heading->setStyleSheet(style);
+    Program->addWidget(heading, row, column, 1, columns);
+}
+
+int MBEMain::senderLine() const
+{
+    return progLines.indexOf(qobject_cast<aLine*>(sender()));
+}
+
+void MBEMain::copyLine(const aLine* src, aLine* dst)
+{
+    dst->setContents(src->contents());
+}
+
+void MBEMain::APCopy()
+{
+    const int k = senderLine();
+    if (k < 0) {
+        return;
+    }
+    copyLine(progLines[k], clipLine);
+}
+
+// The last row keeps its step, so that afterwards the last two rows hold the same one.
+void MBEMain::APCut()
+{
+    const int k = senderLine();
+    if (k < 0) {
+        return;
+    }
+    copyLine(progLines[k], clipLine);
+    for (int j = k; j < progLines.size() - 1; ++j) {
+        copyLine(progLines[j + 1], progLines[j]);
+    }
+}
+
+void MBEMain::APPasteUp()
+{
+    const int k = senderLine();
+    if (k < 0) {
+        return;
+    }
+    pasteAt(k);
+}
+
+void MBEMain::APPasteDown()
+{
+    const int k = senderLine();
+    if (k < 0 || k + 1 >= progLines.size()) {
+        return;
+    }
+    pasteAt(k + 1);
+}
+
+// The rows from `row` on move down, the last one is lost.
+void MBEMain::pasteAt(int row)
+{
+    for (int j = progLines.size() - 2; j >= row; --j) {
+        copyLine(progLines[j], progLines[j + 1]);
+    }
+    copyLine(clipLine, progLines[row]);
+}
+
+void MBEMain::APUndo()
+{
+    NELVO_DEBUG("program") << "undo";
+}
+
+void MBEMain::APClear()
+{
+    for (aLine* line : qAsConst(progLines)) {
+        line->setContents(ProgramStep());
+    }
+}

@@ -1,0 +1,77 @@
+#include "program/programfile.h"
+
+#include "temperature/ramp.h"
+
+#include <QStringList>
+#include <QTextStream>
+
+namespace ProgramFile {
+
+namespace {
+
+constexpr int fieldCount = 20;
+constexpr int firstSetPoint = 1;
+constexpr int firstShutter = firstSetPoint + ProgramStep::channelCount;
+constexpr int timeField = firstShutter + ProgramStep::shutterCount;
+constexpr int groupField = timeField + 1;
+constexpr int timesField = groupField + 1;
+static_assert(timesField == fieldCount - 1, "the repeat count is the last field");
+
+// An empty group would vanish between its two tabs and shift the repeat count.
+const QLatin1String noGroup("---NoGroup---");
+
+} // namespace
+
+void write(QTextStream& stream, const QVector<ProgramStep>& steps)
+{
+    for (int k = 0; k < steps.size(); ++k) {
+        const ProgramStep& step = steps[k];
+        stream << k << '\t';
+        for (const QString& setPoint : step.setPoints) {
+            stream << setPoint << '\t';
+        }
+        for (const bool open : step.shutters) {
+            stream << (open ? 1 : 0) << '\t';
+        }
+        stream << step.timeSec << '\t';
+        if (step.group.simplified().isEmpty()) {
+            stream << noGroup;
+        } else {
+            stream << step.group;
+        }
+        stream << '\t' << step.times << '\n';
+    }
+}
+
+std::optional<ProgramStep> stepOf(const QString& line)
+{
+    const QStringList fields = line.simplified().split(QLatin1Char(' '));
+    if (fields.size() < fieldCount) {
+        return std::nullopt;
+    }
+    ProgramStep step;
+    for (int i = 0; i < ProgramStep::channelCount; ++i) {
+        step.setPoints[static_cast<size_t>(i)] = fields[firstSetPoint + i];
+    }
+    for (int i = 0; i < ProgramStep::shutterCount; ++i) {
+        step.shutters[static_cast<size_t>(i)] = fields[firstShutter + i].toInt() == 1;
+    }
+    step.timeSec = Ramp::number(fields[timeField]);
+    step.group = fields[groupField] == noGroup ? QString() : fields[groupField];
+    step.times = fields[timesField].toInt();
+    return step;
+}
+
+QVector<ProgramStep> read(QTextStream& stream, int limit)
+{
+    QVector<ProgramStep> steps;
+    QString line;
+    while (steps.size() < limit && stream.readLineInto(&line)) {
+        if (const std::optional<ProgramStep> step = stepOf(line)) {
+            steps.append(*step);
+        }
+    }
+    return steps;
+}
+
+} // namespace ProgramFile
