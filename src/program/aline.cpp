@@ -22,17 +22,59 @@ void setTextOf(QLineEdit& edit, const QString& text)
     }
 }
 
+QLineEdit* newEdit(const QString& text, QWidget* parent)
+{
+    auto* edit = new QLineEdit(text, parent);
+    edit->setAlignment(Qt::AlignRight);
+    edit->setStyleSheet(QStringLiteral("background-color: rgb(255, 255, 255);"));
+    return edit;
+}
+
 } // namespace
 
-aLine::aLine()
+aLine::aLine(QWidget* widgetParent)
     : onText(tr("On"))
     , offText(tr("Off"))
     , menu(new QMenu)
-    , stepLabel(new QLabel)
+    , stepLabel(new QLabel(widgetParent))
     , shutterStates(cellCount, false)
-    , timeEdit(newEdit(QStringLiteral("0")))
-    , groupEdit(newEdit(QString()))
-    , timesEdit(newEdit(QStringLiteral("1")))
+    , owner(widgetParent == nullptr)
+{
+    buildMenu();
+
+    stepLabel->setFrameShape(QFrame::StyledPanel);
+    stepLabel->setAlignment(Qt::AlignCenter);
+    stepLabel->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(stepLabel, SIGNAL(customContextMenuRequested(QPoint)), this, SLOT(PopUpEMenu(QPoint)),
+        Qt::UniqueConnection);
+
+    for (int n = 0; n < cellCount; ++n) {
+        buildCell(widgetParent);
+        showShutter(n);
+    }
+    for (int n = 0; n < substrateCount; ++n) {
+        substrateEdits.append(newEdit(QStringLiteral("0"), widgetParent));
+    }
+    timeEdit = newEdit(QStringLiteral("0"), widgetParent);
+    groupEdit = newEdit(QString(), widgetParent);
+    timesEdit = newEdit(QStringLiteral("1"), widgetParent);
+}
+
+aLine::~aLine()
+{
+    delete menu;
+    if (!owner) {
+        return;
+    }
+    delete stepLabel;
+    qDeleteAll(cells);
+    qDeleteAll(substrateEdits);
+    delete timeEdit;
+    delete groupEdit;
+    delete timesEdit;
+}
+
+void aLine::buildMenu()
 {
     const auto addEntry = [this](const QString& text, const char* signal) {
         connect(menu->addAction(text), SIGNAL(triggered()), this, signal, Qt::UniqueConnection);
@@ -42,64 +84,34 @@ aLine::aLine()
     addEntry(tr("Paste(up)"), SIGNAL(pasteUp()));
     addEntry(tr("Paste(down)"), SIGNAL(pasteDown()));
     addEntry(tr("Undo"), SIGNAL(undo()));
-
-    stepLabel->setFrameShape(QFrame::StyledPanel);
-    stepLabel->setAlignment(Qt::AlignCenter);
-    stepLabel->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(stepLabel, SIGNAL(customContextMenuRequested(QPoint)), this, SLOT(PopUpEMenu(QPoint)),
-        Qt::UniqueConnection);
-
-    for (int n = 0; n < cellCount; ++n) {
-        QLineEdit* edit = newEdit(QStringLiteral("0"));
-        edit->setMinimumWidth(50);
-        cellEdits.append(edit);
-
-        auto* button = new QToolButton;
-        button->setMaximumHeight(20);
-        shutterButtons.append(button);
-        showShutter(n);
-        connect(button, SIGNAL(clicked()), this, SLOT(TurnSs()), Qt::UniqueConnection);
-    }
-    for (int n = 0; n < substrateCount; ++n) {
-        substrateEdits.append(newEdit(QStringLiteral("0")));
-    }
 }
 
-aLine::~aLine()
+void aLine::buildCell(QWidget* widgetParent)
 {
-    delete menu;
-    if (placed) {
-        return;
-    }
-    delete stepLabel;
-    qDeleteAll(cellEdits);
-    qDeleteAll(shutterButtons);
-    qDeleteAll(substrateEdits);
-    delete timeEdit;
-    delete groupEdit;
-    delete timesEdit;
-}
+    auto* cell = new QWidget(widgetParent);
+    QLineEdit* edit = newEdit(QStringLiteral("0"), cell);
+    edit->setMinimumWidth(50);
+    auto* button = new QToolButton(cell);
+    button->setMaximumHeight(20);
+    connect(button, SIGNAL(clicked()), this, SLOT(TurnSs()), Qt::UniqueConnection);
 
-QLineEdit* aLine::newEdit(const QString& text) const
-{
-    auto* edit = new QLineEdit(text);
-    edit->setAlignment(Qt::AlignRight);
-    edit->setStyleSheet(QStringLiteral("background-color: rgb(255, 255, 255);"));
-    return edit;
+    auto* box = new QHBoxLayout(cell);
+    box->setSpacing(1);
+    box->setContentsMargins(0, 0, 0, 0);
+    box->addWidget(edit);
+    box->addWidget(button);
+
+    cells.append(cell);
+    cellEdits.append(edit);
+    shutterButtons.append(button);
 }
 
 void aLine::placeInGrid(QGridLayout* grid, int row)
 {
-    placed = true;
+    owner = false;
     int column = 0;
     grid->addWidget(stepLabel, row, column++);
-    for (int n = 0; n < cellEdits.size(); ++n) {
-        auto* cell = new QWidget(grid->parentWidget());
-        auto* box = new QHBoxLayout(cell);
-        box->setSpacing(1);
-        box->setContentsMargins(0, 0, 0, 0);
-        box->addWidget(cellEdits[n]);
-        box->addWidget(shutterButtons[n]);
+    for (QWidget* cell : qAsConst(cells)) {
         grid->addWidget(cell, row, column++);
     }
     for (QLineEdit* edit : qAsConst(substrateEdits)) {

@@ -23,11 +23,14 @@ class aLine : public QObject
     Q_OBJECT
 
 public:
-    /// An unused step: set points and time "0", shutters closed, no group, played once.
-    aLine();
+    /// An unused step: set points and time "0", shutters closed, no group, played once. `widgetParent` is the
+    /// widget whose grid the row is meant for: widgets that are built where they stay take their style sheets
+    /// at a fraction of the cost.
+    explicit aLine(QWidget* widgetParent = nullptr);
     ~aLine() override;
 
-    /// Puts the widgets into row `row` of `grid`, which must belong to a widget. Once.
+    /// Puts the widgets into row `row` of `grid`, which belongs to a widget (the one of the constructor, if
+    /// there was one). Once.
     void placeInGrid(QGridLayout* grid, int row);
 
     /// Shows the step's number, counted from 1.
@@ -73,7 +76,8 @@ public slots:
     void PopUpEMenu(QPoint p);
 
 private:
-    QLineEdit* newEdit(const QString& text) const;
+    void buildMenu();
+    void buildCell(QWidget* widgetParent);
     void showShutter(int n);
     QLineEdit* tempEdit(int ch) const;
 
@@ -81,6 +85,7 @@ private:
     QString offText;
     QMenu* menu;
     QLabel* stepLabel;
+    QList<QWidget*> cells; // of each cell's edit and button
     QList<QLineEdit*> cellEdits;
     QList<QToolButton*> shutterButtons;
     QList<QLineEdit*> substrateEdits;
@@ -88,5 +93,5 @@ private:
     QLineEdit* timeEdit;
     QLineEdit* groupEdit;
     QLineEdit* timesEdit;
-    bool placed = false;
+    bool owner; // of the widgets
 };

@@ -4,6 +4,7 @@
 #include "app/mbemain.h"
 #include "app/panelstyle.h"
 #include "program/aline.h"
+#include "program/heldupdates.h"
 
 #include <QTimer>
 
@@ -23,7 +24,7 @@ void MBEMain::setupProgram()
     Program->setVerticalSpacing(4);
     setupProgramHeader();
     for (int k = 0; k < rowCount; ++k) {
-        auto* line = new aLine;
+        auto* line = new aLine(SA01);
         line->placeInGrid(Program, k + headerRows);
         line->setStep(k + 1);
         connect(line, SIGNAL(copy()), this, SLOT(APCopy()), Qt::UniqueConnection);
@@ -111,6 +112,7 @@ void MBEMain::APCut()
     if (k < 0) {
         return;
     }
+    const HeldUpdates held(*SA01);
     copyLine(progLines[k], clipLine);
     for (int j = k; j < progLines.size() - 1; ++j) {
         copyLine(progLines[j + 1], progLines[j]);
@@ -138,6 +140,7 @@ void MBEMain::APPasteDown()
 // The rows from `row` on move down, the last one is lost.
 void MBEMain::pasteAt(int row)
 {
+    const HeldUpdates held(*SA01);
     for (int j = progLines.size() - 2; j >= row; --j) {
         copyLine(progLines[j], progLines[j + 1]);
     }
@@ -151,6 +154,7 @@ void MBEMain::APUndo()
 
 void MBEMain::APClear()
 {
+    const HeldUpdates held(*SA01);
     for (aLine* line : qAsConst(progLines)) {
         line->setContents(ProgramStep());
     }

@@ -3,6 +3,7 @@
 #include "app/debugline.h"
 #include "app/mbemain.h"
 #include "program/aline.h"
+#include "program/heldupdates.h"
 #include "program/programfile.h"
 
 #include <QDir>
@@ -87,6 +88,7 @@ void MBEMain::APLoadProg(QString fname)
     QTextStream stream(&file);
     const QVector<ProgramStep> steps = ProgramFile::read(stream, progLines.size());
 
+    const HeldUpdates held(*SA01);
     // Rows the file does not fill are cleared. Clearing them all first would show every widget twice.
     for (int k = 0; k < progLines.size(); ++k) {
         progLines[k]->setContents(k < steps.size() ? steps[k] : ProgramStep());

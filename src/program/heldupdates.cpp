@@ -1,0 +1,26 @@
+#include "program/heldupdates.h"
+
+#include <QWidget>
+
+// Not setUpdatesEnabled(): allowing updates again, it asks for one of every child, and the time goes into
+// looking through the 2,600 siblings of each of the table's widgets, of which a few hundred are in sight.
+HeldUpdates::HeldUpdates(QWidget& container)
+    : whole(container)
+{
+    const QList<QWidget*> children = container.findChildren<QWidget*>();
+    held.reserve(children.size());
+    for (QWidget* child : children) {
+        if (child->updatesEnabled()) {
+            child->setAttribute(Qt::WA_UpdatesDisabled);
+            held.append(child);
+        }
+    }
+}
+
+HeldUpdates::~HeldUpdates()
+{
+    for (QWidget* child : qAsConst(held)) {
+        child->setAttribute(Qt::WA_UpdatesDisabled, false);
+    }
+    whole.update();
+}
