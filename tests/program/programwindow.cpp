@@ -1,0 +1,138 @@
+#include "program/programwindow.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QTabWidget>
+#include <QTimer>
+#include <QWindow>
+#include <QtTest>
+
+#include <functional>
+
+namespace {
+
+const QString yellow = QStringLiteral("background-color: rgb(255, 255, 15);");
+const QString olive = QStringLiteral("background-color: rgb(185, 185, 105);");
+
+// Right-clicks and hands the menu that opens to `use`, which must close it. False when none opens.
+bool rightClick(QWidget& widget, const std::function<void(QMenu&)>& use)
+{
+    bool opened = false;
+    QTimer::singleShot(0, [&] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (menu != nullptr) {
+            opened = true;
+            use(*menu);
+        }
+    });
+    QWidget* window = widget.window();
+    QTest::mouseClick(window->windowHandle(), Qt::RightButton, Qt::NoModifier,
+        widget.mapTo(window, widget.rect().center()));
+    QCoreApplication::processEvents();
+    return opened;
+}
+
+} // namespace
+
+bool pickFromMenu(QWidget& label, RowEntry entry)
+{
+    return rightClick(label, [entry](QMenu& menu) {
+        QAction* action = menu.actions().at(static_cast<int>(entry));
+        QTest::mouseClick(&menu, Qt::LeftButton, Qt::NoModifier, menu.actionGeometry(action).center());
+    });
+}
+
+QStringList menuOf(QWidget& widget)
+{
+    QStringList texts;
+    rightClick(widget, [&texts](QMenu& menu) {
+        for (const QAction* action : menu.actions()) {
+            texts.append(action->text());
+        }
+        menu.close();
+    });
+    return texts;
+}
+
+ProgramWindow::ProgramWindow() = default;
+
+void ProgramWindow::show()
+{
+    main.findChild<QTabWidget*>(QStringLiteral("tabWidget"))->setCurrentIndex(0);
+    main.show();
+    if (!QTest::qWaitForWindowExposed(&main)) {
+        qFatal("the window is not shown");
+    }
+    QCoreApplication::processEvents();
+}
+
+QLineEdit* ProgramWindow::setPoint(int row, int ch)
+{
+    return ch < 7 ? at(row, ch + 1)->findChild<QLineEdit*>() : qobject_cast<QLineEdit*>(at(row, ch + 1));
+}
+
+ProgramStep ProgramWindow::row(int row)
+{
+    ProgramStep step;
+    for (int ch = 0; ch < ProgramStep::channelCount; ++ch) {
+        step.setPoints[static_cast<size_t>(ch)] = setPoint(row, ch)->text();
+    }
+    for (int n = 0; n < ProgramStep::shutterCount; ++n) {
+        const bool open = shutter(row, n)->styleSheet() == yellow;
+        if (shutter(row, n)->text() != QLatin1String(open ? "On" : "Off")
+            || (!open && shutter(row, n)->styleSheet() != olive)) {
+            qFatal("shutter %d of row %d shows two things", n, row);
+        }
+        step.shutters[static_cast<size_t>(n)] = open;
+    }
+    step.timeSec = time(row)->text().toDouble();
+    step.group = group(row)->text();
+    step.times = times(row)->text().toInt();
+    return step;
+}
+
+void ProgramWindow::enter(int row, const QString& timeSec, const QString& groupName, const QString& repeats)
+{
+    time(row)->setText(timeSec);
+    group(row)->setText(groupName);
+    times(row)->setText(repeats);
+}
+
+QFileDialog* ProgramWindow::dialog(const char* name)
+{
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->objectName() == QLatin1String(name)) {
+            return qobject_cast<QFileDialog*>(widget);
+        }
+    }
+    return nullptr;
+}
+
+int ProgramWindow::marked()
+{
+    for (int k = 0; k < 200; ++k) {
+        if (stepLabel(k)->styleSheet() == yellow) {
+            return stepLabel(k)->text().toInt();
+        }
+    }
+    return 0;
+}
+
+void ProgramWindow::tick(qint64 afterMs)
+{
+    DrivenClock::advance(afterMs);
+    callSlot(&main, "APOneTick");
+}
+
+QVector<int> ProgramWindow::play(int maxTicks)
+{
+    QVector<int> steps;
+    for (int i = 0; i < maxTicks && isRunning(); ++i) {
+        tick();
+        // A step that has just started shows "0", a step under way its seconds with a decimal.
+        if (isRunning() && label("DispTime01") == QLatin1String("0")) {
+            steps.append(marked());
+        }
+    }
+    return steps;
+}

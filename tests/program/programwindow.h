@@ -1,0 +1,67 @@
+#pragma once
+
+#include "app/mbemain.h"
+#include "program/programstep.h"
+#include "support/ticks.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPointer>
+#include <QToolButton>
+#include <QVector>
+
+/// What a row's menu says, in its order.
+enum class RowEntry { Copy, Cut, PasteUp, PasteDown, Undo };
+
+/// Clicks `label` with the right mouse button and then `entry` of the menu that opens. False when none opens.
+bool pickFromMenu(QWidget& label, RowEntry entry);
+
+/// Clicks `widget` with the right mouse button, closes the menu that opens, if any, and says its entries.
+QStringList menuOf(QWidget& widget);
+
+/// The station's window with its program table, looked at as the operator does. The station's timers are
+/// held and its clock is driven.
+class ProgramWindow
+{
+public:
+    explicit ProgramWindow();
+
+    MBEMain& window() { return main; }
+    /// Brings the table to the front and waits until it is on the screen.
+    void show();
+
+    QGridLayout* grid() { return main.findChild<QGridLayout*>(QStringLiteral("Program")); }
+    /// The widget at `column` of the table's row `row` (from 0).
+    QWidget* at(int row, int column) { return grid()->itemAtPosition(row + 2, column)->widget(); }
+    QLabel* stepLabel(int row) { return qobject_cast<QLabel*>(at(row, 0)); }
+    QLineEdit* setPoint(int row, int ch);
+    QToolButton* shutter(int row, int n) { return at(row, n + 1)->findChild<QToolButton*>(); }
+    QLineEdit* time(int row) { return qobject_cast<QLineEdit*>(at(row, 10)); }
+    QLineEdit* group(int row) { return qobject_cast<QLineEdit*>(at(row, 11)); }
+    QLineEdit* times(int row) { return qobject_cast<QLineEdit*>(at(row, 12)); }
+
+    /// The row as it is shown; an inconsistent shutter button (colour against text) is a fatal error.
+    ProgramStep row(int row);
+    void enter(int row, const QString& timeSec, const QString& groupName = QString(),
+        const QString& repeats = QStringLiteral("1"));
+
+    QString label(const char* name) { return main.findChild<QLabel*>(QLatin1String(name))->text(); }
+    QToolButton* button(const char* name) { return main.findChild<QToolButton*>(QLatin1String(name)); }
+    QLineEdit* edit(const char* name) { return main.findChild<QLineEdit*>(QLatin1String(name)); }
+    QFileDialog* dialog(const char* name);
+
+    /// The number of the step marked as running, 0 when none is.
+    int marked();
+    bool isRunning() { return button("ProgRun")->text() == QLatin1String("Stop"); }
+
+    void tick(qint64 afterMs = 10);
+    /// Ticks every 10 ms until the program stops; the marked steps in their order, each once for each start.
+    QVector<int> play(int maxTicks = 100000);
+
+private:
+    HeldTicks held;
+    DrivenClock clock;
+    MBEMain main;
+};
