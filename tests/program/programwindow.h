@@ -2,15 +2,17 @@
 
 #include "app/mbemain.h"
 #include "program/programstep.h"
+#include "support/scriptedadapter.h"
 #include "support/ticks.h"
 
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QPointer>
 #include <QToolButton>
 #include <QVector>
+
+#include <memory>
 
 /// What a row's menu says, in its order.
 enum class RowEntry { Copy, Cut, PasteUp, PasteDown, Undo };
@@ -21,20 +23,32 @@ bool pickFromMenu(QWidget& label, RowEntry entry);
 /// Clicks `widget` with the right mouse button, closes the menu that opens, if any, and says its entries.
 QStringList menuOf(QWidget& widget);
 
-/// The station's window with its program table, looked at as the operator does. The station's timers are
-/// held and its clock is driven.
+/// While it lives, the off-screen platform keeps to itself what it cannot do (raise a window, grab the
+/// keyboard): showing windows and menus is nothing to warn of in a test.
+class QuietPlatform
+{
+public:
+    QuietPlatform();
+    ~QuietPlatform();
+    QuietPlatform(const QuietPlatform&) = delete;
+    QuietPlatform& operator=(const QuietPlatform&) = delete;
+};
+
+/// The station's window with its program table, looked at as the operator does, linked to a scripted adapter.
+/// The station's timers are held and its clock is driven.
 class ProgramWindow
 {
 public:
-    explicit ProgramWindow();
+    ProgramWindow();
 
-    MBEMain& window() { return main; }
+    MBEMain& window() { return *main; }
+    ScriptedAdapter& adapter() { return peer; }
     /// Brings the table to the front and waits until it is on the screen.
     void show();
 
-    QGridLayout* grid() { return main.findChild<QGridLayout*>(QStringLiteral("Program")); }
+    QGridLayout* grid() { return main->findChild<QGridLayout*>(QStringLiteral("Program")); }
     /// The widget at `column` of the table's row `row` (from 0).
-    QWidget* at(int row, int column) { return grid()->itemAtPosition(row + 2, column)->widget(); }
+    QWidget* at(int row, int column) { return cells[row][column]; }
     QLabel* stepLabel(int row) { return qobject_cast<QLabel*>(at(row, 0)); }
     QLineEdit* setPoint(int row, int ch);
     QToolButton* shutter(int row, int n) { return at(row, n + 1)->findChild<QToolButton*>(); }
@@ -47,9 +61,9 @@ public:
     void enter(int row, const QString& timeSec, const QString& groupName = QString(),
         const QString& repeats = QStringLiteral("1"));
 
-    QString label(const char* name) { return main.findChild<QLabel*>(QLatin1String(name))->text(); }
-    QToolButton* button(const char* name) { return main.findChild<QToolButton*>(QLatin1String(name)); }
-    QLineEdit* edit(const char* name) { return main.findChild<QLineEdit*>(QLatin1String(name)); }
+    QString label(const char* name) { return main->findChild<QLabel*>(QLatin1String(name))->text(); }
+    QToolButton* button(const char* name) { return main->findChild<QToolButton*>(QLatin1String(name)); }
+    QLineEdit* edit(const char* name) { return main->findChild<QLineEdit*>(QLatin1String(name)); }
     QFileDialog* dialog(const char* name);
 
     /// The number of the step marked as running, 0 when none is.
@@ -61,7 +75,10 @@ public:
     QVector<int> play(int maxTicks = 100000);
 
 private:
+    QuietPlatform quiet;
+    ScriptedAdapter peer;
     HeldTicks held;
     DrivenClock clock;
-    MBEMain main;
+    std::unique_ptr<MBEMain> main;
+    QVector<QVector<QWidget*>> cells; // by row and column
 };
