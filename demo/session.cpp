@@ -1,11 +1,12 @@
 #include "session.h"
 
 #include "app/mbemain.h"
+#include "chart/tshowview.h"
 #include "hands.h"
 #include "simulatedchamber.h"
 
+#include <QApplication>
 #include <QDir>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
@@ -21,6 +22,9 @@ namespace {
 
 constexpr int programTab = 0;
 constexpr int chartTab = 1;
+constexpr int leftButton = 1;
+constexpr int rightButton = 3;
+constexpr auto exampleProgram = "superlattice.dat";
 
 void tell(const QString& what)
 {
@@ -96,12 +100,76 @@ bool Session::rampCell()
 
 bool Session::playProgram()
 {
-    return true;
+    tell(QStringLiteral("a growth program is loaded from the examples and played to its end"));
+    if (!openTab(programTab)) {
+        return false;
+    }
+    Hands::click(widget<QToolButton>("ProgLoad"));
+    const QWidget* dialog = nullptr;
+    const auto dialogIsUp = [&dialog] {
+        for (const QWidget* top : QApplication::topLevelWidgets()) {
+            if (top->objectName() == QLatin1String("loadDialog") && top->isActiveWindow()) {
+                dialog = top;
+            }
+        }
+        return dialog != nullptr;
+    };
+    if (!expect(Hands::waitUntil(dialogIsUp, 5000), QStringLiteral("the file dialog opens"))) {
+        return false;
+    }
+    Hands::type(QDir(exampleFolder).filePath(QLatin1String(exampleProgram)));
+    Hands::key(QStringLiteral("Return"));
+
+    const auto& total = widget<QLabel>("DispTTime02");
+    Hands::click(widget<QToolButton>("ProgCheck"));
+    if (!expect(Hands::waitUntil([&total] { return total.text().toDouble() > 0.0; }, 5000),
+            QStringLiteral("the program is loaded and has a total time"))) {
+        return false;
+    }
+    tell(QStringLiteral("its total time is %1 s").arg(total.text().trimmed()));
+
+    auto& run = widget<QToolButton>("ProgRun");
+    const QString idle = run.text();
+    const int shuttersBefore = chamber.count(QStringLiteral("shutters "));
+    Hands::click(run);
+    if (!expect(
+            Hands::waitUntil([&] { return run.text() != idle; }, 3000), QStringLiteral("the program runs"))) {
+        return false;
+    }
+    const int limitMs = static_cast<int>(total.text().toDouble() * 1000.0) + 5000;
+    if (!expect(Hands::waitUntil([&] { return run.text() == idle; }, limitMs),
+            QStringLiteral("the program comes to its end"))) {
+        return false;
+    }
+    return expect(chamber.count(QStringLiteral("shutters ")) > shuttersBefore,
+        QStringLiteral("the chamber sees the program's shutters"));
 }
 
 bool Session::workChart()
 {
-    return true;
+    tell(QStringLiteral("the chart is magnified with the wheel and dragged with both buttons"));
+    if (!openTab(chartTab)) {
+        return false;
+    }
+    const auto& chart = widget<TShowView>("TSView");
+    const auto view = [&chart] { return chart.chartView(); };
+    const ChartView before = view();
+    Hands::wheel(chart, 15);
+    Hands::wheel(chart, 3, true);
+    if (!expect(view().xSpan < before.xSpan / 3.0 && view().ySpan < before.ySpan * 0.8,
+            QStringLiteral("the wheel magnifies time and temperature"))) {
+        return false;
+    }
+    Hands::drag(chart, {chart.width() / 4, 0}, leftButton);
+    Hands::drag(chart, {0, chart.height() / 8}, rightButton);
+    if (!expect(view().xOffset > 0.0 && view().yOffset != before.yOffset,
+            QStringLiteral("dragging shifts time and temperature"))
+        || !picture(QStringLiteral("chart-magnified-ja"))) {
+        return false;
+    }
+    Hands::doubleClick(chart);
+    return expect(view().xSpan == before.xSpan && view().xOffset == 0.0,
+        QStringLiteral("a double click brings the first view back"));
 }
 
 bool Session::takePictures(const QString& language)
