@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en">
 <context>
+    <name>LineSelect</name>
+    <message>
+        <source>Frame</source>
+        <translation>枠</translation>
+    </message>
+    <message>
+        <source>CheckBox</source>
+        <translation>チェックボックス</translation>
+    </message>
+</context>
+<context>
     <name>MBEMain</name>
     <message>
         <source>Be</source>
@@ -74,6 +85,42 @@
     <message>
         <source>Stop</source>
         <translation>停止</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>再開</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Cell Tmp. and Open/Close</source>
+        <translation>セル温度・シャッター開閉</translation>
+    </message>
+    <message>
+        <source>Sub. Tmp.</source>
+        <translation>基板温度</translation>
+    </message>
+    <message>
+        <source>Seq. Ctrl.</source>
+        <translation>進行制御</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>番号</translation>
+    </message>
+    <message>
+        <source>Time[sec]</source>
+        <translation>時間[秒]</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>グループ</translation>
+    </message>
+    <message>
+        <source>Times</source>
+        <translation>回数</translation>
     </message>
 </context>
 <context>
@@ -233,6 +280,67 @@
     <message>
         <source>Time Chart</source>
         <translation>タイムチャート</translation>
+    </message>
+</context>
+<context>
+    <name>TShow</name>
+    <message>
+        <source>Frame</source>
+        <translation>枠</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Shift in X : Drag with Left button&lt;/p&gt;&lt;p&gt;Mag. in X : Wheel with no button&lt;/p&gt;&lt;p&gt;Shift in Y : Drag with Right button&lt;/p&gt;&lt;p&gt;Mag. in Y : Wheel with Right button&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;時間軸の移動 : 左ボタンでドラッグ&lt;/p&gt;&lt;p&gt;時間軸の拡大縮小 : ボタンを押さずにホイール&lt;/p&gt;&lt;p&gt;温度軸の移動 : 右ボタンでドラッグ&lt;/p&gt;&lt;p&gt;温度軸の拡大縮小 : 右ボタンを押しながらホイール&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>TShowView</name>
+    <message>
+        <source>sec</source>
+        <translation>秒</translation>
+    </message>
+    <message>
+        <source>min</source>
+        <translation>分</translation>
+    </message>
+    <message>
+        <source>hour</source>
+        <translation>時間</translation>
+    </message>
+    <message>
+        <source>day</source>
+        <translation>日</translation>
+    </message>
+</context>
+<context>
+    <name>aLine</name>
+    <message>
+        <source>On</source>
+        <translation>開</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>閉</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>切り取り</translation>
+    </message>
+    <message>
+        <source>Paste(up)</source>
+        <translation>上に貼り付け</translation>
+    </message>
+    <message>
+        <source>Paste(down)</source>
+        <translation>下に貼り付け</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
     </message>
 </context>
 </TS>
