@@ -1,5 +1,10 @@
 #include "temperature/controllermessage.h"
 
+#include <cmath>
+#include <iomanip>
+#include <locale>
+#include <sstream>
+
 namespace ControllerMessage {
 
 namespace {
@@ -16,6 +21,18 @@ QByteArray opening(int channel)
     return bytes;
 }
 
+// As printf's "%06.1f" in the C locale. printf itself would follow the machine's decimal point, and
+// QString::asprintf rounds halves away from zero where printf rounds them to even (101.25 to 101.2).
+QByteArray inSixCharacters(double degC)
+{
+    const bool isNumber = std::isfinite(degC);
+    std::ostringstream text;
+    text.imbue(std::locale::classic());
+    text << std::fixed << std::setprecision(1) << std::setw(6) << std::setfill(isNumber ? '0' : ' ')
+         << (isNumber ? std::internal : std::right) << degC;
+    return QByteArray::fromStdString(text.str());
+}
+
 } // namespace
 
 const QByteArray errorReply = QByteArrayLiteral("ER");
@@ -27,9 +44,7 @@ QByteArray readRequest(int channel)
 
 QByteArray setPoint(int channel, double degC)
 {
-    // asprintf writes a decimal point in every locale; printf would follow the machine's.
-    const QByteArray value = QString::asprintf("%06.1f", degC).toLatin1();
-    return opening(channel).append(startOfText).append("S1").append(value).append(endOfText);
+    return opening(channel).append(startOfText).append("S1").append(inSixCharacters(degC)).append(endOfText);
 }
 
 bool appendBlockCheck(char* message, int size)

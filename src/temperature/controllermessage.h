@@ -20,8 +20,9 @@ extern const QByteArray errorReply;
 QByteArray readRequest(int channel);
 
 /// The message that gives `channel` (0 to 8) the set point `degC`, block check not yet appended. The value
-/// has one decimal and is padded with zeros to six characters, sign and point included (25 is "0025.0", -5 is
-/// "-005.0"); 10000 and more take more. Always with a decimal point, whatever the locale.
+/// has one decimal, rounded to nearest and exact halves to even, and is padded with zeros to six characters,
+/// sign and point included (25 is "0025.0", -5 is "-005.0"); 10000 and more take more. Always with a decimal
+/// point, whatever the locale.
 QByteArray setPoint(int channel, double degC);
 
 /// Appends the block check character, the exclusive-or of every byte of the NUL-terminated `message` from its
