@@ -27,9 +27,9 @@ void MBEMain::startStopCell(int ch)
         stopCell(ch);
         return;
     }
-    const double current = Ramp::number(currentLabels[ch]->text());
-    const double target = Ramp::number(targetEdits[ch]->text());
-    const double duration = Ramp::number(durationEdits[ch]->text());
+    const double current = currentLabels[ch]->text().toDouble();
+    const double target = targetEdits[ch]->text().toDouble();
+    const double duration = durationEdits[ch]->text().toDouble();
     const Ramp::Plan plan = Ramp::plan(current, target, duration, riseRateLimits[ch]);
     switch (plan.refusal) {
     case Ramp::Refusal::Duration:
@@ -80,7 +80,7 @@ bool MBEMain::rampStep(int ch)
         return true;
     }
     // Read anew at every step: the operator may edit the target while the ramp runs.
-    const double target = Ramp::number(targetEdits[ch]->text());
+    const double target = targetEdits[ch]->text().toDouble();
     const double rate = rampRate[ch];
     const double setPoint = Ramp::limited(rampSetPoint[ch], target, rate);
     setTMP(static_cast<unsigned char>(ch), setPoint);

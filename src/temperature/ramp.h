@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QtGlobal>
 
 /// The arithmetic of a ramp: its rate, what is refused, and its set points in one-minute steps.
 namespace Ramp {
@@ -27,9 +27,5 @@ double limited(double setPointDegC, double targetDegC, double rate);
 
 /// Whether a ramp is over once `setPointDegC` has been sent. Never, with a rate of 0.
 bool reaches(double setPointDegC, double targetDegC, double rate);
-
-/// An entry of the panel as a number: 0 for what is none. "inf" and "nan" are none here, since an instrument
-/// could make nothing of them.
-double number(const QString& text);
 
 } // namespace Ramp
