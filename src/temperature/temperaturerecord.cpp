@@ -6,19 +6,6 @@
 
 #include <QFile>
 
-namespace {
-
-// A line that does not fit on the disk is taken back, so that the next one does not continue half a line.
-void appendWhole(QFile& file, const QByteArray& line)
-{
-    const qint64 sizeBefore = file.size();
-    if (file.write(line) != line.size() || !file.flush()) {
-        file.resize(sizeBefore);
-    }
-}
-
-} // namespace
-
 void MBEMain::recordTMP()
 {
     QFile file(QStringLiteral("TemperatureRec.dat"));
@@ -33,6 +20,6 @@ void MBEMain::recordTMP()
     Tshow->update();
 
     if (isOpen) {
-        appendWhole(file, Record::line(elapsedSec, values));
+        file.write(Record::line(elapsedSec, values));
     }
 }
