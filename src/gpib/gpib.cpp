@@ -132,7 +132,8 @@ qint64 GPIB::bytesAvailable()
 void GPIB::rcvMsg()
 {
     while (socket->canReadLine()) {
-        rbuf = socket->readLine(longestLine).simplified();
+        // readLine() counts a terminating NUL that it does not return.
+        rbuf = socket->readLine(longestLine + 1).simplified();
         replyPending = false;
         emit dataReady(rbuf.size(), rbuf);
     }
