@@ -92,9 +92,14 @@ void ScriptedAdapter::send(const QByteArray& bytes)
     if (client == nullptr) {
         qFatal("nobody is connected to the scripted adapter");
     }
+    post(bytes);
+    settle();
+}
+
+void ScriptedAdapter::post(const QByteArray& bytes)
+{
     client->write(bytes);
     client->flush();
-    settle();
 }
 
 void ScriptedAdapter::cut()

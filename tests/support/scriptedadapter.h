@@ -40,6 +40,9 @@ public:
     /// Sends `bytes` and lets the program take them in.
     void send(const QByteArray& bytes);
 
+    /// Sends `bytes` at once, to a program that is already connected; the caller turns the event loop.
+    void post(const QByteArray& bytes);
+
     /// Cuts the connection; listening goes on.
     void cut();
 
