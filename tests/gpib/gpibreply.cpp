@@ -77,7 +77,7 @@ void GpibReplyTest::lines_data()
     QTest::newRow("NUL inside") << QByteArray("a\0b\n", 4) << QByteArray("a\0b", 3);
     QTest::newRow("bytes above 127") << QByteArray("\xB0\xFF\n") << QByteArray("\xB0\xFF");
     QTest::newRow("the adapter's own answer") << QByteArray("1\r\n") << QByteArray("1");
-    QTest::newRow("a controller's answer") << QByteArray("01M  512.3E\r\n") << QByteArray("01M 512.3E");
+    QTest::newRow("a controller's answer") << QByteArray("01M 0512.3E\r\n") << QByteArray("01M 0512.3E");
 }
 
 void GpibReplyTest::lines()

@@ -15,7 +15,8 @@
 class MBEMain;
 class QWidget;
 
-/// The line a controller answers a read with: 11 characters, the value (deg C) at 3 to 9.
+/// The line a controller answers a read with: 11 characters, the value (0 deg C and more) at
+/// 3 to 9.
 QByteArray reading(double degC);
 
 /// The bytes of a read of `channel` (0 to 8) as they come off the wire, line end included.
