@@ -15,7 +15,7 @@ struct Rows
 };
 
 /// The rows that the vertical lines of all the columns `from` to `to` cover. None when one of the columns is
-/// missing, has no vertical line or does not stand beside the one before it.
+/// missing, has no such line or does not stand beside the one before it.
 inline Rows commonRows(const QVector<PixelColumn>& columns, int from, int to)
 {
     constexpr Rows none{0.0, -1.0};
@@ -25,7 +25,7 @@ inline Rows commonRows(const QVector<PixelColumn>& columns, int from, int to)
     Rows rows{columns.at(from).top, columns.at(from).bottom};
     for (int i = from; i <= to; ++i) {
         const PixelColumn& column = columns.at(i);
-        if (!column.hasSegment() || column.x != columns.at(from).x + (i - from)) {
+        if (!column.merged || column.x != columns.at(from).x + (i - from)) {
             return none;
         }
         rows.top = std::max(rows.top, column.top);

@@ -3,6 +3,7 @@
 #include "chart/columnrows.h"
 #include "chart/pixelcolumns.h"
 #include "chart/repeatedpixels.h"
+#include "chart/rimcolumns.h"
 
 #include <cmath>
 #include <limits>
@@ -64,7 +65,7 @@ void addVerticals(const QVector<PixelColumn>& columns, LineStrokes& strokes)
     int from = 0;
     while (from < columns.size()) {
         const PixelColumn& column = columns.at(from);
-        if (!column.hasSegment() || !fitsInt(column.x)) {
+        if (!column.merged || !fitsInt(column.x)) {
             ++from;
             continue;
         }
@@ -96,7 +97,7 @@ bool isCovered(const QVector<PixelColumn>& columns, int index, const PenShape& p
     const double to = columns.at(index).entry;
     const double top = std::min(from, to);
     const double bottom = std::max(from, to);
-    if (pen.width == 1 && pen.scale == 1.0) {
+    if (pen.isThin()) {
         return commonRows(columns, index - 1, index).contains(top, bottom);
     }
     // The corners of a slanting wide stroke reach a little over its ends, to the sides and beyond.
@@ -141,8 +142,9 @@ bool segmentLine(double x1, double y1, double x2, double y2, QLine& line)
 LineStrokes lineStrokes(
     const PointBuffer& buffer, const PlotMapping& mapping, int first, int last, const PenShape& pen)
 {
-    const QVector<PixelColumn> columns = pixelColumns(buffer, mapping, first, last);
+    QVector<PixelColumn> columns = pixelColumns(buffer, mapping, first, last);
     LineStrokes strokes;
+    takeRimColumns(buffer, mapping, pen, columns, strokes);
     addVerticals(columns, strokes);
     addConnections(columns, pen, strokes);
     addRepeatedPixels(buffer, mapping, columns, pen, strokes);

@@ -12,6 +12,9 @@ struct PenShape
 {
     int width = 1; ///< pixels of the widget
     double scale = 1.0; ///< device pixels a widget pixel
+
+    /// One device pixel wide: the toolkit has exact integer arithmetic for such lines.
+    bool isThin() const { return width == 1 && scale == 1.0; }
 };
 
 /// What to draw for one channel: lines with the pen, rectangles filled with its colour.

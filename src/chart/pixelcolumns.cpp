@@ -27,6 +27,7 @@ public:
         found.top = row(range.highest);
         found.bottom = row(range.lowest);
         found.drawable = true;
+        found.merged = found.hasSegment();
         return found;
     }
 
@@ -69,7 +70,7 @@ private:
 
 PixelColumn gap(int index)
 {
-    return {index, index, 0.0, 0.0, 0.0, 0.0, 0.0, false};
+    return {index, index, 0.0, 0.0, 0.0, 0.0, 0.0, false, false};
 }
 
 } // namespace

@@ -14,6 +14,7 @@ struct PixelColumn
     double top; ///< the smallest y
     double bottom; ///< the largest y
     bool drawable; ///< false for a point that is not finite: no segment leads to it or from it
+    bool merged; ///< its segments are drawn as one vertical line from top to bottom
 
     bool hasSegment() const { return last > first; }
 };

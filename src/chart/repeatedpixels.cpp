@@ -93,7 +93,7 @@ void addRepeatedPixels(const PointBuffer& buffer, const PlotMapping& mapping,
     DotFinder finder(buffer, mapping, columns);
     for (int i = 0; i < columns.size(); ++i) {
         const PixelColumn& column = columns.at(i);
-        const bool isDotItself = column.top == column.bottom;
+        const bool isDotItself = column.merged && column.top == column.bottom;
         if (!column.hasSegment() || isDotItself) {
             continue;
         }

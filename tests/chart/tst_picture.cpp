@@ -112,10 +112,10 @@ void PictureTest::oneAndTwoPoints()
     PicturePair pair(1000.0);
     pair.resize(QSize(400, 300));
     const QImage empty = pair.chartPicture();
-    pair.add(1, {{900.0, 400.0}});
+    pair.add(1, {{910.0, 450.0}});
     QCOMPARE(pair.chartPicture(), empty);
     QVERIFY(pair.isSame());
-    pair.add(1, {{900.0, 400.0}});
+    pair.add(1, {{910.0, 450.0}});
     QVERIFY(pair.isSame());
     QVERIFY(pair.chartPicture() != empty);
     pair.chart.select(1);

@@ -1,0 +1,135 @@
+#include "chart/rimcolumns.h"
+
+#include "chart/columnrows.h"
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+class RimColumn
+{
+public:
+    RimColumn(const PointBuffer& points, const PlotMapping& map, int penWidth, LineStrokes& drawn)
+        : buffer(points)
+        , mapping(map)
+        , inside{std::trunc(map.top) + penWidth, std::trunc(map.bottom) - penWidth}
+        , visible{inside.top - 8.0 * penWidth, inside.bottom + 8.0 * penWidth}
+        , strokes(drawn)
+    {
+    }
+
+    bool isInside(const PixelColumn& column) const { return inside.contains(column.top, column.bottom); }
+
+    void draw(const PixelColumn& column)
+    {
+        x = column.x;
+        before = column.entry;
+        run = Rows{before, before};
+        runLength = inside.contains(before, before) ? 1 : 0;
+        lastDot = std::numeric_limits<double>::quiet_NaN();
+        int point = column.first + 1;
+        while (point <= column.last) {
+            const int end = std::min(buffer.blockEnd(point), column.last + 1);
+            drawBlock(point, end);
+            point = end;
+        }
+        finishRun();
+    }
+
+private:
+    // The segments that lead to the points `from` to `end` - 1.
+    void drawBlock(int from, int end)
+    {
+        const ValueRange range = buffer.range(from, end - 1);
+        const Rows rows{row(range.highest), row(range.lowest)};
+        if (runLength > 0 && inside.contains(rows.top, rows.bottom)) {
+            extendRun(rows, end - from);
+            before = row(buffer.at(end - 1).degC);
+            return;
+        }
+        const bool isAbove = std::max(before, rows.bottom) < visible.top;
+        const bool isBelow = std::min(before, rows.top) > visible.bottom;
+        if (isAbove || isBelow) {
+            before = row(buffer.at(end - 1).degC);
+            return;
+        }
+        for (int i = from; i < end; ++i) {
+            drawSegmentTo(row(buffer.at(i).degC));
+        }
+    }
+
+    void drawSegmentTo(double here)
+    {
+        const bool isHereInside = inside.contains(here, here);
+        if (runLength > 0 && isHereInside) {
+            extendRun({here, here}, 1);
+            before = here;
+            return;
+        }
+        finishRun();
+        const bool isDot = here == before;
+        if (!isDot || here != lastDot) {
+            addLine(before, here);
+        }
+        if (isDot) {
+            lastDot = here;
+        }
+        run = Rows{here, here};
+        runLength = isHereInside ? 1 : 0;
+        before = here;
+    }
+
+    void extendRun(const Rows& rows, int points)
+    {
+        run.top = std::min(run.top, rows.top);
+        run.bottom = std::max(run.bottom, rows.bottom);
+        runLength += points;
+    }
+
+    void finishRun()
+    {
+        if (runLength > 1) {
+            addLine(run.top, run.bottom);
+        }
+        runLength = 0;
+    }
+
+    void addLine(double from, double to)
+    {
+        QLine line;
+        if (segmentLine(x, from, x, to, line)) {
+            strokes.lines.append(line);
+        }
+    }
+
+    double row(double degC) const { return wholePixel(mapping.pixelY(degC)); }
+
+    const PointBuffer& buffer;
+    const PlotMapping& mapping;
+    Rows inside; // lines between these rows are not clipped
+    Rows visible; // beyond these rows nothing is seen
+    LineStrokes& strokes;
+    double x = 0.0;
+    double before = 0.0; // row of the last point
+    Rows run{0.0, -1.0}; // the rows of the points inside that follow each other
+    int runLength = 0;
+    double lastDot = 0.0; // row of the last point that fell on the pixel before it
+};
+
+} // namespace
+
+void takeRimColumns(const PointBuffer& buffer, const PlotMapping& mapping, const PenShape& pen,
+    QVector<PixelColumn>& columns, LineStrokes& strokes)
+{
+    if (pen.isThin()) {
+        return;
+    }
+    RimColumn rim(buffer, mapping, pen.width, strokes);
+    for (PixelColumn& column : columns) {
+        if (column.hasSegment() && !rim.isInside(column)) {
+            rim.draw(column);
+            column.merged = false;
+        }
+    }
+}
