@@ -12,6 +12,8 @@ struct PenShape
 {
     int width = 1; ///< pixels of the widget
     double scale = 1.0; ///< device pixels a widget pixel
+    double originX = 0.0; ///< where the widget stands on the device, in device pixels
+    double originY = 0.0;
 
     /// One device pixel wide: the toolkit has exact integer arithmetic for such lines.
     bool isThin() const { return width == 1 && scale == 1.0; }

@@ -10,20 +10,27 @@ namespace {
 class RimColumn
 {
 public:
-    RimColumn(const PointBuffer& points, const PlotMapping& map, int penWidth, LineStrokes& drawn)
+    RimColumn(const PointBuffer& points, const PlotMapping& map, const PenShape& pen, LineStrokes& drawn)
         : buffer(points)
         , mapping(map)
-        , inside{std::trunc(map.top) + penWidth, std::trunc(map.bottom) - penWidth}
-        , visible{inside.top - 8.0 * penWidth, inside.bottom + 8.0 * penWidth}
+        , sureX((nearOrigin - pen.originX) / pen.scale)
+        , sureRows{std::max(std::trunc(map.top) + pen.width, (nearOrigin - pen.originY) / pen.scale),
+              std::trunc(map.bottom) - pen.width}
+        , visible{std::trunc(map.top) - 8.0 * pen.width, std::trunc(map.bottom) + 8.0 * pen.width}
         , strokes(drawn)
     {
     }
 
-    bool isInside(const PixelColumn& column) const { return inside.contains(column.top, column.bottom); }
+    // Whether its segments can be gathered as they are.
+    bool isSure(const PixelColumn& column) const
+    {
+        return column.x >= sureX && sureRows.contains(column.top, column.bottom);
+    }
 
     void draw(const PixelColumn& column)
     {
         x = column.x;
+        inside = x >= sureX ? sureRows : Rows{0.0, -1.0};
         before = column.entry;
         run = Rows{before, before};
         runLength = inside.contains(before, before) ? 1 : 0;
@@ -38,6 +45,8 @@ public:
     }
 
 private:
+    static constexpr double nearOrigin = 64.0; // device pixels
+
     // The segments that lead to the points `from` to `end` - 1.
     void drawBlock(int from, int end)
     {
@@ -107,10 +116,12 @@ private:
 
     const PointBuffer& buffer;
     const PlotMapping& mapping;
-    Rows inside; // lines between these rows are not clipped
+    double sureX; // from this column on and between these rows lines can be gathered
+    Rows sureRows;
     Rows visible; // beyond these rows nothing is seen
     LineStrokes& strokes;
     double x = 0.0;
+    Rows inside{0.0, -1.0}; // the sure rows of this column
     double before = 0.0; // row of the last point
     Rows run{0.0, -1.0}; // the rows of the points inside that follow each other
     int runLength = 0;
@@ -125,9 +136,9 @@ void takeRimColumns(const PointBuffer& buffer, const PlotMapping& mapping, const
     if (pen.isThin()) {
         return;
     }
-    RimColumn rim(buffer, mapping, pen.width, strokes);
+    RimColumn rim(buffer, mapping, pen, strokes);
     for (PixelColumn& column : columns) {
-        if (column.hasSegment() && !rim.isInside(column)) {
+        if (column.hasSegment() && !rim.isSure(column)) {
             rim.draw(column);
             column.merged = false;
         }

@@ -125,12 +125,13 @@ void TShowView::paintEvent(QPaintEvent*)
 void TShowView::paintLines(QPainter& painter) const
 {
     const PlotMapping& mapping = coord.mapping();
+    const QTransform device = painter.deviceTransform();
     for (int channel = 0; channel < series.size(); ++channel) {
         const PointBuffer& points = series.at(channel);
         if (!isShown(channel) || points.size() < 2) {
             continue;
         }
-        const PenShape pen{channel == selected ? 3 : 1, painter.deviceTransform().m11()};
+        const PenShape pen{channel == selected ? 3 : 1, device.m11(), device.dx(), device.dy()};
         const int first = points.firstIndex(mapping.xMin);
         const int last = points.lastIndex(first, mapping.xMax);
         const LineStrokes strokes = lineStrokes(points, mapping, first, last, pen);
