@@ -1,0 +1,219 @@
+// The chart's figures, side by side in one run, and how they stand against the targets.
+
+#include "figures.h"
+#include "peers.h"
+#include "subjects.h"
+
+#include "chart/support/chartdata.h"
+#include "chart/support/hand.h"
+#include "chart/support/picturepair.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QWindow>
+
+#include <benchmark/benchmark.h>
+
+#include <functional>
+
+namespace {
+
+using Make = std::function<std::unique_ptr<Subject>(const Scene&)>;
+
+void addRepaint(const std::string& name, const QString& kind, int count, const Make& make, const QSize& size)
+{
+    benchmark::RegisterBenchmark(name.c_str(), [=](benchmark::State& state) {
+        Scene scene = makeScene(kind, count);
+        scene.size = size;
+        const std::unique_ptr<Subject> subject = make(scene);
+        subject->repaint();
+        for (auto _ : state) {
+            subject->repaint();
+        }
+    })->Unit(benchmark::kMillisecond);
+}
+
+void addRepaints()
+{
+    const QSize size = Scene().size;
+    for (const QString& kind : {QStringLiteral("waveform"), QStringLiteral("noise")}) {
+        const std::string prefix = kind.toStdString();
+        addRepaint(prefix + "/ours", kind, fullHistory, makeOurs, size);
+        addRepaint(prefix + "/every_segment", kind, fullHistory, makeEverySegment, size);
+        if (hasQCustomPlot()) {
+            addRepaint(prefix + "/QCustomPlot", kind, fullHistory, makeQCustomPlot, size);
+        }
+        if (hasQwt()) {
+            addRepaint(prefix + "/Qwt", kind, fullHistory, makeQwt, size);
+        }
+        addRepaint(prefix + "/ours_2000", kind, 2000, makeOurs, size);
+        // As many device pixels as 1000 x 560 has at the scales 1.25, 1.5 and 2.
+        addRepaint(prefix + "/ours_1250x700", kind, fullHistory, makeOurs, QSize(1250, 700));
+        addRepaint(prefix + "/ours_1500x840", kind, fullHistory, makeOurs, QSize(1500, 840));
+        addRepaint(prefix + "/ours_2000x1120", kind, fullHistory, makeOurs, QSize(2000, 1120));
+    }
+}
+
+// A real window with full histories.
+class FullWindow
+{
+public:
+    FullWindow()
+        : pair(fullHistory)
+    {
+        const Scene scene = makeScene(QStringLiteral("waveform"), fullHistory);
+        pair.resize(scene.size);
+        for (int channel = 0; channel < channelCount; ++channel) {
+            pair.add(channel, scene.series.at(channel));
+        }
+        Hand::notches(pair.chart, -62);
+        pair.chart.show();
+        settle();
+    }
+
+    static void settle() { QCoreApplication::processEvents(); }
+
+    PicturePair pair;
+};
+
+void addMouse()
+{
+    const auto add = [](const char* name, const std::function<void(TShowView&, int)>& act) {
+        benchmark::RegisterBenchmark(name, [=](benchmark::State& state) {
+            FullWindow window;
+            int turn = 0;
+            for (auto _ : state) {
+                act(window.pair.chart, turn++);
+                FullWindow::settle();
+            }
+        })->Unit(benchmark::kMillisecond);
+    };
+    add("mouse/repaint", [](TShowView& chart, int) { chart.update(); });
+    add("mouse/press", [](TShowView& chart, int) { Hand::press(chart, QPointF(500, 300), Qt::LeftButton); });
+    add("mouse/drag_step", [](TShowView& chart, int turn) {
+        if (turn == 0) {
+            Hand::press(chart, QPointF(500, 300), Qt::LeftButton);
+        }
+        Hand::move(chart, QPointF(500 + turn % 100, 300), Qt::LeftButton);
+    });
+    add("mouse/wheel", [](TShowView& chart, int turn) { Hand::wheel(chart, turn % 2 == 0 ? 120 : -120); });
+    benchmark::RegisterBenchmark("frame_60Hz", [](benchmark::State& state) {
+        for (auto _ : state) {
+            state.SetIterationTime(1.0 / 60.0);
+        }
+    })->UseManualTime()->Iterations(10)->Unit(benchmark::kMillisecond);
+}
+
+PointBuffer fullBuffer(int channel)
+{
+    PointBuffer buffer;
+    for (int i = 0; i < fullHistory; ++i) {
+        buffer.append({1.0 * i, 500.0 + channel + i % 77});
+    }
+    return buffer;
+}
+
+void addAppend()
+{
+    benchmark::RegisterBenchmark("append/amortised", [](benchmark::State& state) {
+        constexpr int batch = 100000;
+        PointBuffer buffer = fullBuffer(0);
+        double sec = fullHistory;
+        QElapsedTimer timer;
+        qint64 spentNs = 0;
+        qint64 appended = 0;
+        for (auto _ : state) {
+            timer.start();
+            for (int i = 0; i < batch; ++i) {
+                sec += 1.0;
+                buffer.append({sec, sec});
+            }
+            spentNs += timer.nsecsElapsed();
+            appended += batch;
+        }
+        state.counters["ns_per_append"] = static_cast<double>(spentNs) / static_cast<double>(appended);
+    })->Unit(benchmark::kMillisecond);
+
+    // From empty to well past the limit. The same append of five goes: an interruption by the system is not
+    // the buffer's.
+    benchmark::RegisterBenchmark("append/slowest", [](benchmark::State& state) {
+        constexpr int goes = 5;
+        constexpr int count = 2 * fullHistory;
+        std::vector<qint64> quickest(count, std::numeric_limits<qint64>::max());
+        for (auto _ : state) {
+            for (int go = 0; go < goes; ++go) {
+                PointBuffer buffer;
+                QElapsedTimer timer;
+                for (int i = 0; i < count; ++i) {
+                    timer.start();
+                    buffer.append({1.0 * i, 500.0});
+                    qint64& best = quickest[static_cast<std::size_t>(i)];
+                    best = std::min(best, timer.nsecsElapsed());
+                }
+            }
+        }
+        state.counters["slowest_ms"]
+            = 1e-6 * static_cast<double>(*std::max_element(quickest.begin(), quickest.end()));
+    })->Iterations(1)->Unit(benchmark::kMillisecond);
+}
+
+// The process's resident memory in MB, 0 where the system does not tell.
+double residentMb()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly)) {
+        return 0.0;
+    }
+    const QList<QByteArray> lines = status.readAll().split('\n');
+    for (const QByteArray& line : lines) {
+        if (line.startsWith("VmRSS:")) {
+            return line.mid(6).simplified().split(' ').first().toDouble() / 1024.0;
+        }
+    }
+    return 0.0;
+}
+
+// First of all benchmarks: memory that others gave back would hide what is taken.
+void addMemory()
+{
+    benchmark::RegisterBenchmark("memory/nine_channels", [](benchmark::State& state) {
+        double taken = 0.0;
+        for (auto _ : state) {
+            TShowView chart;
+            chart.resize(1000, 560);
+            chart.grab();
+            const double before = residentMb();
+            for (int channel = 0; channel < channelCount; ++channel) {
+                for (int i = 0; i < fullHistory + 5000; ++i) {
+                    chart.addPoint(channel, i, 500.0 + i % 77);
+                }
+            }
+            taken = residentMb() - before;
+        }
+        state.counters["MB"] = taken;
+    })->Iterations(1)->Unit(benchmark::kMillisecond);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
+        return 1;
+    }
+    addMemory();
+    addRepaints();
+    addMouse();
+    addAppend();
+    Figures figures;
+    benchmark::RunSpecifiedBenchmarks(&figures);
+    figures.printTargets();
+    return 0;
+}

@@ -1,0 +1,76 @@
+#include "figures.h"
+
+#include <algorithm>
+#include <cstdio>
+
+void Figures::ReportRuns(const std::vector<Run>& runs)
+{
+    ConsoleReporter::ReportRuns(runs);
+    for (const Run& run : runs) {
+        if (run.run_type != Run::RT_Iteration || run.iterations == 0) {
+            continue;
+        }
+        const std::string name = run.run_name.function_name;
+        timesMs[name].push_back(1e3 * run.real_accumulated_time / static_cast<double>(run.iterations));
+        for (const auto& counter : run.counters) {
+            counters[name][counter.first] = counter.second.value;
+        }
+    }
+}
+
+double Figures::ms(const std::string& name) const
+{
+    const auto found = timesMs.find(name);
+    if (found == timesMs.end()) {
+        return 0.0;
+    }
+    std::vector<double> times = found->second;
+    std::sort(times.begin(), times.end());
+    return times.at(times.size() / 2);
+}
+
+double Figures::counter(const std::string& name, const std::string& what) const
+{
+    const auto found = counters.find(name);
+    if (found == counters.end() || found->second.count(what) == 0) {
+        return 0.0;
+    }
+    return found->second.at(what);
+}
+
+void Figures::ratio(
+    const char* what, const std::string& ours, const std::string& other, double target) const
+{
+    if (!has(ours) || !has(other)) {
+        return;
+    }
+    const double value = ms(ours) / ms(other);
+    std::printf("  %-58s %8.3f   target %6.3f  %s\n", what, value, target, value <= target ? "met" : "MISSED");
+}
+
+void Figures::most(
+    const char* what, const std::string& name, const std::string& counterName, double target) const
+{
+    if (!has(name)) {
+        return;
+    }
+    const double value = counter(name, counterName);
+    std::printf("  %-58s %8.3f   target %6.1f  %s\n", what, value, target, value <= target ? "met" : "MISSED");
+}
+
+void Figures::printTargets() const
+{
+    std::printf("\nAgainst the targets (medians of this run):\n");
+    ratio("waveform: ours / QCustomPlot", "waveform/ours", "waveform/QCustomPlot", 0.25);
+    ratio("noise: ours / QCustomPlot", "noise/ours", "noise/QCustomPlot", 0.25);
+    ratio("waveform: ours / every segment", "waveform/ours", "waveform/every_segment", 0.03);
+    ratio("noise: ours / every segment (no target of its own)", "noise/ours", "noise/every_segment", 1.0);
+    ratio("waveform: ours / Qwt (no target of its own)", "waveform/ours", "waveform/Qwt", 1.0);
+    ratio("waveform: ours / ours with 2,000 points a channel", "waveform/ours", "waveform/ours_2000", 1.5);
+    ratio("a drag step / a frame at 60 Hz", "mouse/drag_step", "frame_60Hz", 1.0);
+    ratio("a press / one repaint", "mouse/press", "mouse/repaint", 1.3);
+    ratio("a wheel step / one repaint", "mouse/wheel", "mouse/repaint", 1.3);
+    most("append at the limit, ns", "append/amortised", "ns_per_append", 150.0);
+    most("slowest single append, ms", "append/slowest", "slowest_ms", 1.0);
+    most("memory of nine full channels, MB", "memory/nine_channels", "MB", 40.0);
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <map>
+#include <string>
+
+/// Prints as usual and remembers each benchmark's time, so that ratios of one run can be told.
+class Figures : public benchmark::ConsoleReporter
+{
+public:
+    void ReportRuns(const std::vector<Run>& runs) override;
+
+    bool has(const std::string& name) const { return timesMs.count(name) != 0; }
+    /// The median real time of one iteration, 0 when it did not run.
+    double ms(const std::string& name) const;
+    double counter(const std::string& name, const std::string& what) const;
+
+    /// The table of ratios against their targets.
+    void printTargets() const;
+
+private:
+    void ratio(const char* what, const std::string& ours, const std::string& other, double target) const;
+    void most(const char* what, const std::string& name, const std::string& counterName, double target) const;
+
+    std::map<std::string, std::vector<double>> timesMs;
+    std::map<std::string, std::map<std::string, double>> counters;
+};

@@ -1,0 +1,7 @@
+#pragma once
+
+#include "subjects.h"
+
+/// Whether the peer was there when the program was built.
+bool hasQCustomPlot();
+bool hasQwt();
