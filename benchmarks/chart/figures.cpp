@@ -11,7 +11,7 @@ void Figures::ReportRuns(const std::vector<Run>& runs)
             continue;
         }
         const std::string name = run.run_name.function_name;
-        timesMs[name].push_back(1e3 * run.real_accumulated_time / static_cast<double>(run.iterations));
+        timesMs[name].push_back(1e3 * run.cpu_accumulated_time / static_cast<double>(run.iterations));
         for (const auto& counter : run.counters) {
             counters[name][counter.first] = counter.second.value;
         }

@@ -39,6 +39,7 @@ public:
         plot.resize(scene.size);
         plot.setAntialiasedElements(QCP::aeNone);
         plot.setNotAntialiasedElements(QCP::aeAll);
+        plot.setPlottingHint(QCP::phFastPolylines);
         for (int channel = 0; channel < scene.series.size(); ++channel) {
             QVector<double> x;
             QVector<double> y;

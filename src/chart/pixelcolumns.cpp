@@ -1,7 +1,6 @@
 #include "chart/pixelcolumns.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -10,7 +9,7 @@ class ColumnWalk
 public:
     ColumnWalk(const PointBuffer& points, const PlotMapping& map)
         : buffer(points)
-        , mapping(map)
+        , pixels(map)
     {
     }
 
@@ -19,7 +18,7 @@ public:
     {
         PixelColumn found;
         found.first = first;
-        found.x = wholePixel(mapping.pixelX(buffer.at(first).sec));
+        found.x = wholePixel(pixels.x(buffer.at(first).sec));
         found.last = lastOfColumn(first, end, found.x);
         found.entry = row(buffer.at(first).degC);
         found.exit = row(buffer.at(found.last).degC);
@@ -32,12 +31,12 @@ public:
     }
 
 private:
-    double row(double degC) const { return wholePixel(mapping.pixelY(degC)); }
+    double row(double degC) const { return wholePixel(pixels.y(degC)); }
 
     // Whether a point at or after the column's first one is still in column `x`.
     bool inColumn(int index, double x) const
     {
-        const double position = mapping.pixelX(buffer.at(index).sec);
+        const double position = pixels.x(buffer.at(index).sec);
         return x >= 0.0 ? position < x + 1.0 : wholePixel(position) == x;
     }
 
@@ -64,7 +63,7 @@ private:
     }
 
     const PointBuffer& buffer;
-    const PlotMapping& mapping;
+    const PixelMap pixels;
     int guess = 1;
 };
 
@@ -78,6 +77,7 @@ PixelColumn gap(int index)
 QVector<PixelColumn> pixelColumns(const PointBuffer& buffer, const PlotMapping& mapping, int first, int last)
 {
     QVector<PixelColumn> columns;
+    columns.reserve(std::min(last - first + 1, pixelOf(mapping.right - mapping.left) + 4));
     ColumnWalk walk(buffer, mapping);
     int next = first;
     while (next <= last) {

@@ -11,7 +11,7 @@ class DotFinder
 public:
     DotFinder(const PointBuffer& points, const PlotMapping& map, const QVector<PixelColumn>& all)
         : buffer(points)
-        , mapping(map)
+        , pixels(map)
         , columns(all)
         , visible{std::trunc(map.top) - margin, std::trunc(map.bottom) + margin}
     {
@@ -44,7 +44,7 @@ public:
 private:
     static constexpr int margin = 16;
 
-    double row(double degC) const { return wholePixel(mapping.pixelY(degC)); }
+    double row(double degC) const { return wholePixel(pixels.y(degC)); }
 
     void scan(int index, int point, int end, const Rows& hidden, QVector<QLine>& dots)
     {
@@ -74,7 +74,7 @@ private:
     }
 
     const PointBuffer& buffer;
-    const PlotMapping& mapping;
+    const PixelMap pixels;
     const QVector<PixelColumn>& columns;
     Rows visible;
     QVector<int> seenIn; // for each visible row, the last column with a dot in it

@@ -12,7 +12,7 @@ class RimColumn
 public:
     RimColumn(const PointBuffer& points, const PlotMapping& map, const PenShape& pen, LineStrokes& drawn)
         : buffer(points)
-        , mapping(map)
+        , pixels(map)
         , sureX((nearOrigin - pen.originX) / pen.scale)
         , sureRows{std::max(std::trunc(map.top) + pen.width, (nearOrigin - pen.originY) / pen.scale),
               std::trunc(map.bottom) - pen.width}
@@ -112,10 +112,10 @@ private:
         }
     }
 
-    double row(double degC) const { return wholePixel(mapping.pixelY(degC)); }
+    double row(double degC) const { return wholePixel(pixels.y(degC)); }
 
     const PointBuffer& buffer;
-    const PlotMapping& mapping;
+    const PixelMap pixels;
     double sureX; // from this column on and between these rows lines can be gathered
     Rows sureRows;
     Rows visible; // beyond these rows nothing is seen
