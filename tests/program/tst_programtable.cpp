@@ -75,10 +75,14 @@ class TestProgramTable : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void init();
     void tableHasTwoHundredUnusedRows();
     void headersNameTheColumns();
     void barStartsIdle();
     void menuOpensOnTheStepOnly();
+    void pasteBeforeAnyCopyInsertsAnUnusedRow();
     void copyThenPasteUpTakesTheRowsPlace();
     void pasteDownLandsBelow();
     void cutMovesTheRestUpAndKeepsTheLastRow();
@@ -86,21 +90,41 @@ private slots:
     void pasteUpOnTheLastRowOverwritesIt();
     void pasteDownOnTheRowBeforeTheLastOverwritesTheLast();
     void pasteDownOnTheLastRowDoesNothing();
-    void pasteBeforeAnyCopyInsertsAnUnusedRow();
     void clipHoldsOneRow();
     void undoSaysSoAndChangesNothing();
     void clearMakesEveryRowUnused();
     void everyRowInSightIsPaintedAfterAChange();
     void slotsWithoutARowDoNothing();
+
+private:
+    ProgramWindow& table() { return *shared; }
+
+    // One window for all: building it is the larger part of a test. What a test leaves on the clip stays.
+    std::unique_ptr<ProgramWindow> shared;
 };
+
+void TestProgramTable::initTestCase()
+{
+    shared = std::make_unique<ProgramWindow>();
+    shared->show();
+}
+
+void TestProgramTable::cleanupTestCase()
+{
+    shared.reset();
+}
+
+void TestProgramTable::init()
+{
+    table().button("ProgClear")->click();
+}
 
 void TestProgramTable::tableHasTwoHundredUnusedRows()
 {
-    ProgramWindow table;
-    QCOMPARE(difference(table, QVector<ProgramStep>(200)), -1);
-    QVERIFY(table.grid()->itemAtPosition(202, 0) == nullptr);
-    QCOMPARE(table.grid()->horizontalSpacing(), 3);
-    QCOMPARE(table.grid()->verticalSpacing(), 4);
+    QCOMPARE(difference(table(), QVector<ProgramStep>(200)), -1);
+    QVERIFY(table().grid()->itemAtPosition(202, 0) == nullptr);
+    QCOMPARE(table().grid()->horizontalSpacing(), 3);
+    QCOMPARE(table().grid()->verticalSpacing(), 4);
 }
 
 void TestProgramTable::headersNameTheColumns()
@@ -121,9 +145,8 @@ void TestProgramTable::headersNameTheColumns()
         {"Main Ch", 1, 8, 1, "255, 240, 240"}, {"Pre Ch", 1, 9, 1, "255, 240, 240"},
         {"Time[sec]", 1, 10, 1, "240, 250, 255"}, {"Group", 1, 11, 1, "240, 250, 255"},
         {"Times", 1, 12, 1, "240, 250, 255"}};
-    ProgramWindow table;
     for (const Header& header : headers) {
-        QLayoutItem* item = table.grid()->itemAtPosition(header.row, header.column);
+        QLayoutItem* item = table().grid()->itemAtPosition(header.row, header.column);
         auto* label = qobject_cast<QLabel*>(item->widget());
         QCOMPARE(label->text(), QLatin1String(header.text));
         QCOMPARE(label->styleSheet(),
@@ -134,161 +157,138 @@ void TestProgramTable::headersNameTheColumns()
         int column = 0;
         int rows = 0;
         int columns = 0;
-        table.grid()->getItemPosition(table.grid()->indexOf(label), &row, &column, &rows, &columns);
+        table().grid()->getItemPosition(table().grid()->indexOf(label), &row, &column, &rows, &columns);
         QCOMPARE(QList<int>({row, column, rows, columns}),
             QList<int>({header.row, header.column, 1, header.columns}));
     }
-    QVERIFY(table.grid()->itemAtPosition(0, 0) == nullptr);
+    QVERIFY(table().grid()->itemAtPosition(0, 0) == nullptr);
 }
 
 void TestProgramTable::barStartsIdle()
 {
-    ProgramWindow table;
     const QString olive = QStringLiteral("background-color: rgb(185, 185, 105);");
-    QCOMPARE(table.button("ProgRun")->text(), QStringLiteral("Run"));
-    QCOMPARE(table.button("ProgRun")->styleSheet(), olive);
-    QCOMPARE(table.button("ProgPause")->text(), QStringLiteral("Pause"));
-    QCOMPARE(table.button("ProgPause")->styleSheet(), olive);
-    QCOMPARE(table.marked(), 0);
+    QCOMPARE(table().button("ProgRun")->text(), QStringLiteral("Run"));
+    QCOMPARE(table().button("ProgRun")->styleSheet(), olive);
+    QCOMPARE(table().button("ProgPause")->text(), QStringLiteral("Pause"));
+    QCOMPARE(table().button("ProgPause")->styleSheet(), olive);
+    QCOMPARE(table().marked(), 0);
 }
 
 void TestProgramTable::menuOpensOnTheStepOnly()
 {
-    ProgramWindow table;
-    table.show();
     const QStringList entries{QStringLiteral("Copy"), QStringLiteral("Cut"), QStringLiteral("Paste(up)"),
         QStringLiteral("Paste(down)"), QStringLiteral("Undo")};
-    QCOMPARE(menuOf(*table.stepLabel(0)), entries);
-    QCOMPARE(menuOf(*table.stepLabel(3)), entries);
-    QVERIFY(menuOf(*table.shutter(0, 0)) != entries);
-    QVERIFY(menuOf(*table.setPoint(0, 0)) != entries);
-    QVERIFY(menuOf(*table.time(0)) != entries);
+    QCOMPARE(menuOf(*table().stepLabel(0)), entries);
+    QCOMPARE(menuOf(*table().stepLabel(3)), entries);
+    QVERIFY(menuOf(*table().shutter(0, 0)) != entries);
+    QVERIFY(menuOf(*table().setPoint(0, 0)) != entries);
+    QVERIFY(menuOf(*table().time(0)) != entries);
 }
 
 void TestProgramTable::copyThenPasteUpTakesTheRowsPlace()
 {
-    ProgramWindow table;
-    table.show();
-    fill(table);
-    QVERIFY(pick(table, 3, RowEntry::Copy));
-    QCOMPARE(difference(table, numberedTable()), -1);
-    QVERIFY(pick(table, 10, RowEntry::PasteUp));
+    fill(table());
+    QVERIFY(pick(table(), 3, RowEntry::Copy));
+    QCOMPARE(difference(table(), numberedTable()), -1);
+    QVERIFY(pick(table(), 10, RowEntry::PasteUp));
     QVector<ProgramStep> expected = numberedTable();
     expected.insert(10, numbered(3));
     expected.removeLast();
-    QCOMPARE(difference(table, expected), -1);
+    QCOMPARE(difference(table(), expected), -1);
 }
 
 void TestProgramTable::pasteDownLandsBelow()
 {
-    ProgramWindow table;
-    table.show();
-    fill(table);
-    QVERIFY(pick(table, 3, RowEntry::Copy));
-    QVERIFY(pick(table, 10, RowEntry::PasteDown));
+    fill(table());
+    QVERIFY(pick(table(), 3, RowEntry::Copy));
+    QVERIFY(pick(table(), 10, RowEntry::PasteDown));
     QVector<ProgramStep> expected = numberedTable();
     expected.insert(11, numbered(3));
     expected.removeLast();
-    QCOMPARE(difference(table, expected), -1);
+    QCOMPARE(difference(table(), expected), -1);
 }
 
 void TestProgramTable::cutMovesTheRestUpAndKeepsTheLastRow()
 {
-    ProgramWindow table;
-    table.show();
-    fill(table);
-    QVERIFY(pick(table, 5, RowEntry::Cut));
+    fill(table());
+    QVERIFY(pick(table(), 5, RowEntry::Cut));
     QVector<ProgramStep> expected = numberedTable();
     expected.removeAt(5);
     expected.append(numbered(lastRow));
-    QCOMPARE(difference(table, expected), -1);
+    QCOMPARE(difference(table(), expected), -1);
 
-    QVERIFY(pick(table, 0, RowEntry::PasteUp));
+    QVERIFY(pick(table(), 0, RowEntry::PasteUp));
     expected.insert(0, numbered(5));
     expected.removeLast();
-    QCOMPARE(difference(table, expected), -1);
+    QCOMPARE(difference(table(), expected), -1);
 }
 
 void TestProgramTable::cutOfTheLastRowLeavesTheTable()
 {
-    ProgramWindow table;
-    table.show();
-    fill(table);
-    QVERIFY(pick(table, lastRow, RowEntry::Cut));
-    QCOMPARE(difference(table, numberedTable()), -1);
-    QVERIFY(pick(table, 0, RowEntry::PasteUp));
-    QCOMPARE(table.row(0), numbered(lastRow));
+    fill(table());
+    QVERIFY(pick(table(), lastRow, RowEntry::Cut));
+    QCOMPARE(difference(table(), numberedTable()), -1);
+    QVERIFY(pick(table(), 0, RowEntry::PasteUp));
+    QCOMPARE(table().row(0), numbered(lastRow));
 }
 
 void TestProgramTable::pasteUpOnTheLastRowOverwritesIt()
 {
-    ProgramWindow table;
-    table.show();
-    fill(table);
-    QVERIFY(pick(table, 3, RowEntry::Copy));
-    QVERIFY(pick(table, lastRow, RowEntry::PasteUp));
+    fill(table());
+    QVERIFY(pick(table(), 3, RowEntry::Copy));
+    QVERIFY(pick(table(), lastRow, RowEntry::PasteUp));
     QVector<ProgramStep> expected = numberedTable();
     expected[lastRow] = numbered(3);
-    QCOMPARE(difference(table, expected), -1);
+    QCOMPARE(difference(table(), expected), -1);
 }
 
 void TestProgramTable::pasteDownOnTheRowBeforeTheLastOverwritesTheLast()
 {
-    ProgramWindow table;
-    table.show();
-    fill(table);
-    QVERIFY(pick(table, 3, RowEntry::Copy));
-    QVERIFY(pick(table, lastRow - 1, RowEntry::PasteDown));
+    fill(table());
+    QVERIFY(pick(table(), 3, RowEntry::Copy));
+    QVERIFY(pick(table(), lastRow - 1, RowEntry::PasteDown));
     QVector<ProgramStep> expected = numberedTable();
     expected[lastRow] = numbered(3);
-    QCOMPARE(difference(table, expected), -1);
+    QCOMPARE(difference(table(), expected), -1);
 }
 
 void TestProgramTable::pasteDownOnTheLastRowDoesNothing()
 {
-    ProgramWindow table;
-    table.show();
-    fill(table);
-    QVERIFY(pick(table, 3, RowEntry::Copy));
-    QVERIFY(pick(table, lastRow, RowEntry::PasteDown));
-    QCOMPARE(difference(table, numberedTable()), -1);
+    fill(table());
+    QVERIFY(pick(table(), 3, RowEntry::Copy));
+    QVERIFY(pick(table(), lastRow, RowEntry::PasteDown));
+    QCOMPARE(difference(table(), numberedTable()), -1);
 }
 
 void TestProgramTable::pasteBeforeAnyCopyInsertsAnUnusedRow()
 {
-    ProgramWindow table;
-    table.show();
-    fill(table);
-    QVERIFY(pick(table, 0, RowEntry::PasteUp));
-    QCOMPARE(table.row(0), ProgramStep());
-    QCOMPARE(table.row(1), numbered(0));
-    QCOMPARE(table.time(0)->text(), QStringLiteral("0"));
+    fill(table());
+    QVERIFY(pick(table(), 0, RowEntry::PasteUp));
+    QCOMPARE(table().row(0), ProgramStep());
+    QCOMPARE(table().row(1), numbered(0));
+    QCOMPARE(table().time(0)->text(), QStringLiteral("0"));
 }
 
 void TestProgramTable::clipHoldsOneRow()
 {
-    ProgramWindow table;
-    table.show();
-    fill(table);
-    QVERIFY(pick(table, 3, RowEntry::Copy));
-    QVERIFY(pick(table, 4, RowEntry::Copy));
-    QVERIFY(pick(table, 0, RowEntry::PasteUp));
-    QVERIFY(pick(table, 0, RowEntry::PasteUp));
-    QCOMPARE(table.row(0), numbered(4));
-    QCOMPARE(table.row(1), numbered(4));
-    QCOMPARE(table.row(2), numbered(0));
+    fill(table());
+    QVERIFY(pick(table(), 3, RowEntry::Copy));
+    QVERIFY(pick(table(), 4, RowEntry::Copy));
+    QVERIFY(pick(table(), 0, RowEntry::PasteUp));
+    QVERIFY(pick(table(), 0, RowEntry::PasteUp));
+    QCOMPARE(table().row(0), numbered(4));
+    QCOMPARE(table().row(1), numbered(4));
+    QCOMPARE(table().row(2), numbered(0));
 }
 
 void TestProgramTable::undoSaysSoAndChangesNothing()
 {
-    ProgramWindow table;
-    table.show();
-    fill(table);
-    QVERIFY(pick(table, 3, RowEntry::Cut));
-    const ProgramStep before = table.row(3);
+    fill(table());
+    QVERIFY(pick(table(), 3, RowEntry::Cut));
+    const ProgramStep before = table().row(3);
     {
         MessageCapture capture;
-        QVERIFY(pick(table, 3, RowEntry::Undo));
+        QVERIFY(pick(table(), 3, RowEntry::Undo));
         LoggedMessage undone;
         for (const LoggedMessage& message : capture.messages()) {
             undone = message.unit == QLatin1String("program") ? message : undone;
@@ -297,17 +297,14 @@ void TestProgramTable::undoSaysSoAndChangesNothing()
         QCOMPARE(undone.category, QStringLiteral("default"));
         QVERIFY(undone.function.contains(QLatin1String("APUndo")));
     }
-    QCOMPARE(table.row(3), before);
+    QCOMPARE(table().row(3), before);
 }
 
 void TestProgramTable::clearMakesEveryRowUnused()
 {
-    ProgramWindow table;
-    table.show();
-    fill(table);
-    QTest::mouseClick(table.button("ProgClear"), Qt::LeftButton);
-    QCOMPARE(difference(table, QVector<ProgramStep>(200)), -1);
-    QCOMPARE(table.row(0), ProgramStep());
+    fill(table());
+    QTest::mouseClick(table().button("ProgClear"), Qt::LeftButton);
+    QCOMPARE(difference(table(), QVector<ProgramStep>(200)), -1);
 }
 
 namespace {
@@ -331,20 +328,18 @@ protected:
 
 void TestProgramTable::everyRowInSightIsPaintedAfterAChange()
 {
-    ProgramWindow table;
-    table.show();
-    fill(table);
+    fill(table());
     QCoreApplication::processEvents();
     PaintCount count;
     QCoreApplication::instance()->installEventFilter(&count);
-    QTest::mouseClick(table.button("ProgClear"), Qt::LeftButton);
-    QTRY_VERIFY(count.painted.contains(table.time(0)));
+    QTest::mouseClick(table().button("ProgClear"), Qt::LeftButton);
+    QTRY_VERIFY(count.painted.contains(table().time(0)));
     QCoreApplication::instance()->removeEventFilter(&count);
 
     int inSight = 0;
     for (int k = 0; k < 200; ++k) {
-        const QList<QWidget*> changed{table.setPoint(k, 1), table.setPoint(k, 8), table.shutter(k, k % 7),
-            table.time(k), table.group(k), table.times(k)};
+        const QList<QWidget*> changed{table().setPoint(k, 1), table().setPoint(k, 8),
+            table().shutter(k, k % 7), table().time(k), table().group(k), table().times(k)};
         for (QWidget* widget : changed) {
             QVERIFY(widget->updatesEnabled());
             if (!widget->visibleRegion().isEmpty()) {
@@ -358,12 +353,11 @@ void TestProgramTable::everyRowInSightIsPaintedAfterAChange()
 
 void TestProgramTable::slotsWithoutARowDoNothing()
 {
-    ProgramWindow table;
-    fill(table);
+    fill(table());
     for (const char* slot : {"APCopy", "APCut", "APPasteUp", "APPasteDown"}) {
-        callSlot(&table.window(), slot);
+        callSlot(&table().window(), slot);
     }
-    QCOMPARE(difference(table, numberedTable()), -1);
+    QCOMPARE(difference(table(), numberedTable()), -1);
 }
 
 NELVO_TEST_MAIN(TestProgramTable)
