@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QRadioButton>
 #include <QTabWidget>
 #include <QTimer>
 #include <QWindow>
@@ -73,11 +74,18 @@ QuietPlatform::~QuietPlatform()
     qInstallMessageHandler(before);
 }
 
-ProgramWindow::ProgramWindow()
+ProgramWindow::ProgramWindow(Time time)
     : cells(200, QVector<QWidget*>(13, nullptr))
 {
+    if (time == Time::Driven) {
+        held = std::make_unique<HeldTicks>();
+        clock = std::make_unique<DrivenClock>();
+    }
     qputenv("NELVO_ADAPTER", peer.address().toLatin1());
     main = std::make_unique<MBEMain>();
+    if (time == Time::Real) {
+        main->findChild<QRadioButton*>(QStringLiteral("TMPCtrlActive"))->setChecked(false);
+    }
     for (int i = 0; i < grid()->count(); ++i) {
         int row = 0;
         int column = 0;
@@ -142,14 +150,38 @@ QFileDialog* ProgramWindow::dialog(const char* name)
     return nullptr;
 }
 
-int ProgramWindow::marked()
+QVector<int> ProgramWindow::marked()
 {
-    for (int k = 0; k < 200; ++k) {
+    QVector<int> steps;
+    for (int k = 0; k < cells.size(); ++k) {
         if (stepLabel(k)->styleSheet() == yellow) {
-            return stepLabel(k)->text().toInt();
+            steps.append(stepLabel(k)->text().toInt());
         }
     }
-    return 0;
+    return steps;
+}
+
+QByteArray ProgramWindow::masks()
+{
+    QByteArray found;
+    const QByteArray bytes = peer.received();
+    for (int i = 0; i + 2 < bytes.size(); ++i) {
+        if (bytes[i] == '\x1B' && bytes[i + 2] == '\n') {
+            found.append(bytes[i + 1]);
+        }
+    }
+    return found;
+}
+
+void ProgramWindow::forgetCommands()
+{
+    // The command that closes all shutters when the station starts is the first.
+    QTRY_VERIFY(!masks().isEmpty());
+    for (int before = -1; before != masks().size();) {
+        before = masks().size();
+        QTest::qWait(20);
+    }
+    peer.forget();
 }
 
 void ProgramWindow::tick(qint64 afterMs)
@@ -161,11 +193,11 @@ void ProgramWindow::tick(qint64 afterMs)
 QVector<int> ProgramWindow::play(int maxTicks)
 {
     QVector<int> steps;
-    for (int i = 0; i < maxTicks && isRunning(); ++i) {
+    for (int i = 0; i < maxTicks && isRunning() && !isWaiting(); ++i) {
         tick();
         // A step that has just started shows "0", a step under way its seconds with a decimal.
         if (isRunning() && label("DispTime01") == QLatin1String("0")) {
-            steps.append(marked());
+            steps += marked();
         }
     }
     return steps;

@@ -35,11 +35,13 @@ public:
 };
 
 /// The station's window with its program table, looked at as the operator does, linked to a scripted adapter.
-/// The station's timers are held and its clock is driven.
+/// The station's timers are held and its clock is driven, or, in real time, its polling is off: the adapter
+/// does not answer and would keep the bus.
 class ProgramWindow
 {
 public:
-    ProgramWindow();
+    enum class Time { Driven, Real };
+    explicit ProgramWindow(Time time = Time::Driven);
 
     MBEMain& window() { return *main; }
     ScriptedAdapter& adapter() { return peer; }
@@ -62,23 +64,28 @@ public:
         const QString& repeats = QStringLiteral("1"));
 
     QString label(const char* name) { return main->findChild<QLabel*>(QLatin1String(name))->text(); }
+    /// The shutter commands the instruments received since forgetCommands(): the mask bytes in their order.
+    QByteArray masks();
+    void forgetCommands();
+
     QToolButton* button(const char* name) { return main->findChild<QToolButton*>(QLatin1String(name)); }
     QLineEdit* edit(const char* name) { return main->findChild<QLineEdit*>(QLatin1String(name)); }
     QFileDialog* dialog(const char* name);
 
-    /// The number of the step marked as running, 0 when none is.
-    int marked();
+    /// The numbers of the steps marked as running.
+    QVector<int> marked();
+    bool isWaiting() { return button("ProgPause")->text() == QLatin1String("Resume"); }
     bool isRunning() { return button("ProgRun")->text() == QLatin1String("Stop"); }
 
     void tick(qint64 afterMs = 10);
-    /// Ticks every 10 ms until the program stops; the marked steps in their order, each once for each start.
+    /// Ticks every 10 ms until the program stops or waits; the steps in the order of their starts.
     QVector<int> play(int maxTicks = 100000);
 
 private:
     QuietPlatform quiet;
     ScriptedAdapter peer;
-    HeldTicks held;
-    DrivenClock clock;
+    std::unique_ptr<HeldTicks> held;
+    std::unique_ptr<DrivenClock> clock;
     std::unique_ptr<MBEMain> main;
     QVector<QVector<QWidget*>> cells; // by row and column
 };

@@ -171,7 +171,7 @@ void TestProgramTable::barStartsIdle()
     QCOMPARE(table().button("ProgRun")->styleSheet(), olive);
     QCOMPARE(table().button("ProgPause")->text(), QStringLiteral("Pause"));
     QCOMPARE(table().button("ProgPause")->styleSheet(), olive);
-    QCOMPARE(table().marked(), 0);
+    QCOMPARE(table().marked(), QVector<int>());
 }
 
 void TestProgramTable::menuOpensOnTheStepOnly()
