@@ -15,6 +15,10 @@
 
 namespace {
 
+// With the file's name between them, three items of a debug line.
+const QString cannotOpen = QStringLiteral("Can not open [");
+const QString bracket = QStringLiteral("]");
+
 QString programFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::DesktopLocation)
@@ -29,19 +33,12 @@ QFileDialog* newDialog(const QString& name, QFileDialog::AcceptMode mode)
     return dialog;
 }
 
-// The folder is made when it is first needed. A dialog that was built before could not enter it yet.
+// The folder is made when it is first needed; a dialog cannot enter it before.
 void showInFolder(QFileDialog& dialog)
 {
-    if (!QDir(programFolder()).exists()) {
-        QDir().mkpath(programFolder());
-        dialog.setDirectory(programFolder());
-    }
+    QDir().mkpath(programFolder());
+    dialog.setDirectory(programFolder());
     dialog.show();
-}
-
-void sayCannotOpen(const QString& fname)
-{
-    NELVO_DEBUG("program") << QStringLiteral("Can not open [") << fname << QStringLiteral("]");
 }
 
 bool save(const QString& fname, const QVector<ProgramStep>& steps)
@@ -55,6 +52,11 @@ bool save(const QString& fname, const QVector<ProgramStep>& steps)
     QTextStream stream(&file);
     ProgramFile::write(stream, steps);
     stream.flush();
+    // Asked here, because commit() does not look at how its own last flush went: on a full disk it would
+    // replace the file by the part that fitted.
+    if (stream.status() != QTextStream::Ok || !file.flush()) {
+        file.cancelWriting();
+    }
     return file.commit();
 }
 
@@ -82,7 +84,7 @@ void MBEMain::APLoadProg(QString fname)
 {
     QFile file(fname);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        sayCannotOpen(fname);
+        NELVO_DEBUG("program") << cannotOpen << fname << bracket;
         return;
     }
     QTextStream stream(&file);
@@ -103,6 +105,6 @@ void MBEMain::APSaveProg(QString fname)
         steps.append(line->contents());
     }
     if (!save(fname, steps)) {
-        sayCannotOpen(fname);
+        NELVO_DEBUG("program") << cannotOpen << fname << bracket;
     }
 }

@@ -1,0 +1,311 @@
+#include "program/programwindow.h"
+
+#include "support/messagecapture.h"
+#include "support/testmain.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QStandardPaths>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
+namespace {
+
+QString folder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::DesktopLocation)
+        + QStringLiteral("/NelvoProgram");
+}
+
+QByteArray contentsOf(const QString& fname)
+{
+    QFile file(fname);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
+}
+
+void put(const QString& fname, const QByteArray& bytes)
+{
+    QFile file(fname);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+QByteArray defaultLine(int k)
+{
+    return QByteArray::number(k) + "\t0\t0\t0\t0\t0\t0\t0\t0\t0\t0\t0\t0\t0\t0\t0\t0\t0\t---NoGroup---\t1\n";
+}
+
+void callWithFile(ProgramWindow& table, const char* slot, const QString& fname)
+{
+    QVERIFY(QMetaObject::invokeMethod(&table.window(), slot, Q_ARG(QString, fname)));
+}
+
+} // namespace
+
+class TestProgramFiles : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void init();
+
+    void dialogsAreReadyAndHidden();
+    void buttonsShowTheDialogsInTheirFolder();
+    void dialogsDriveSaveAndLoad();
+    void savedDefaultTableIsUnchangedWhenLoaded();
+    void savedTableIsUnchangedWhenLoaded();
+    void fileMissingLeavesTheTable();
+    void unwritableFileSaysSo_data();
+    void unwritableFileSaysSo();
+    void unfinishedSaveKeepsTheOldProgram();
+    void shortFileClearsTheOtherRows();
+    void longFileStopsAtTheLastRow();
+    void emptyFileClearsTheTable();
+    void windowsLineEndsAreRead();
+    void loadingKeepsNumbersAndMarks();
+
+private:
+    ProgramWindow& table() { return *shared; }
+    std::unique_ptr<ProgramWindow> shared;
+};
+
+void TestProgramFiles::initTestCase()
+{
+    // The desktop is not among the places that the tests' standard paths move.
+    qputenv("HOME", QDir::currentPath().toLocal8Bit());
+    if (!folder().startsWith(QDir::currentPath())) {
+        QSKIP("the tests cannot have a desktop of their own");
+    }
+    shared = std::make_unique<ProgramWindow>();
+}
+
+void TestProgramFiles::cleanupTestCase()
+{
+    shared.reset();
+}
+
+void TestProgramFiles::init()
+{
+    table().button("ProgClear")->click();
+}
+
+void TestProgramFiles::dialogsAreReadyAndHidden()
+{
+    QFileDialog* load = table().dialog("loadDialog");
+    QFileDialog* save = table().dialog("saveDialog");
+    QCOMPARE(load->acceptMode(), QFileDialog::AcceptOpen);
+    QCOMPARE(save->acceptMode(), QFileDialog::AcceptSave);
+    for (QFileDialog* dialog : {load, save}) {
+        QCOMPARE(dialog->nameFilters(), QStringList(QStringLiteral("*.dat")));
+        QVERIFY(dialog->parent() == nullptr);
+        QVERIFY(!dialog->isModal());
+        QVERIFY(!dialog->isVisible());
+    }
+    QVERIFY(!QDir(folder()).exists()); // made when first needed
+}
+
+void TestProgramFiles::buttonsShowTheDialogsInTheirFolder()
+{
+    QVERIFY(QDir::isAbsolutePath(folder()));
+    table().button("ProgSave")->click();
+    table().button("ProgLoad")->click();
+    for (const char* name : {"saveDialog", "loadDialog"}) {
+        QFileDialog* dialog = table().dialog(name);
+        QVERIFY(dialog->isVisible());
+        QVERIFY(!dialog->isModal());
+        QCOMPARE(dialog->directory().absolutePath(), folder());
+        dialog->close();
+    }
+    QVERIFY(QDir(folder()).exists());
+    table().button("ProgLoad")->click();
+    QVERIFY(table().dialog("loadDialog")->isVisible()); // outlives its use
+    table().dialog("loadDialog")->close();
+}
+
+void TestProgramFiles::dialogsDriveSaveAndLoad()
+{
+    table().enter(0, QStringLiteral("33"), QStringLiteral("G"), QStringLiteral("2"));
+    const QString fname = folder() + QStringLiteral("/picked.dat");
+    for (const char* name : {"saveDialog", "loadDialog"}) {
+        QFileDialog* dialog = table().dialog(name);
+        table().button(dialog->acceptMode() == QFileDialog::AcceptSave ? "ProgSave" : "ProgLoad")->click();
+        auto* nameEdit = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        nameEdit->setText(fname);
+        QTest::keyClick(nameEdit, Qt::Key_Return);
+        QTRY_VERIFY(!dialog->isVisible());
+        if (dialog->acceptMode() == QFileDialog::AcceptSave) {
+            QCOMPARE(contentsOf(fname).count('\n'), 200);
+            table().button("ProgClear")->click();
+        }
+    }
+    QCOMPARE(table().time(0)->text(), QStringLiteral("33"));
+    QCOMPARE(table().group(0)->text(), QStringLiteral("G"));
+}
+
+void TestProgramFiles::savedDefaultTableIsUnchangedWhenLoaded()
+{
+    const QString fname = QStringLiteral("default.dat");
+    callWithFile(table(), "APSaveProg", fname);
+    QByteArray expected;
+    for (int k = 0; k < 200; ++k) {
+        expected += defaultLine(k);
+    }
+    QCOMPARE(contentsOf(fname).replace("\r\n", "\n"), expected);
+    callWithFile(table(), "APLoadProg", fname);
+    for (int k = 0; k < 200; ++k) {
+        QCOMPARE(table().row(k), ProgramStep());
+    }
+}
+
+void TestProgramFiles::savedTableIsUnchangedWhenLoaded()
+{
+    for (int k = 0; k < 200; ++k) {
+        table().enter(k, QString::number(k + 0.25), QString::number(k / 5), QString::number(k));
+        table().setPoint(k, k % 9)->setText(QString::number(k));
+        table().shutter(k, k % 7)->click();
+    }
+    QVector<ProgramStep> before;
+    for (int k = 0; k < 200; ++k) {
+        before.append(table().row(k));
+    }
+    callWithFile(table(), "APSaveProg", QStringLiteral("full.dat"));
+    const QByteArray saved = contentsOf(QStringLiteral("full.dat"));
+    table().button("ProgClear")->click();
+    callWithFile(table(), "APLoadProg", QStringLiteral("full.dat"));
+    for (int k = 0; k < 200; ++k) {
+        QCOMPARE(table().row(k), before[k]);
+    }
+    callWithFile(table(), "APSaveProg", QStringLiteral("full.dat"));
+    QCOMPARE(contentsOf(QStringLiteral("full.dat")), saved);
+}
+
+void TestProgramFiles::fileMissingLeavesTheTable()
+{
+    table().enter(0, QStringLiteral("33"));
+    MessageCapture capture;
+    callWithFile(table(), "APLoadProg", QStringLiteral("no such file.dat"));
+    QCOMPARE(capture.messages().size(), 1);
+    const LoggedMessage message = capture.messages().constFirst();
+    QCOMPARE(message.text, QStringLiteral("\"Can not open [\" \"no such file.dat\" \"]\""));
+    QCOMPARE(message.unit, QStringLiteral("program"));
+    QCOMPARE(message.category, QStringLiteral("default"));
+    QVERIFY(message.function.contains(QLatin1String("APLoadProg")));
+    QCOMPARE(table().time(0)->text(), QStringLiteral("33"));
+}
+
+void TestProgramFiles::unwritableFileSaysSo_data()
+{
+    QTest::addColumn<QString>("fname");
+    QTest::newRow("a directory") << QStringLiteral("afolder");
+    QTest::newRow("in a missing directory") << QStringLiteral("missing/program.dat");
+    QTest::newRow("no name") << QString();
+}
+
+void TestProgramFiles::unwritableFileSaysSo()
+{
+    QFETCH(const QString, fname);
+    QDir().mkdir(QStringLiteral("afolder"));
+    MessageCapture capture;
+    callWithFile(table(), "APSaveProg", fname);
+    callWithFile(table(), "APLoadProg", fname);
+    const QString expected = QStringLiteral("\"Can not open [\" \"%1\" \"]\"").arg(fname);
+    QCOMPARE(capture.texts().filter(QStringLiteral("Can not open")), QStringList({expected, expected}));
+}
+
+void TestProgramFiles::unfinishedSaveKeepsTheOldProgram()
+{
+#ifdef Q_OS_UNIX
+    const QString fname = QStringLiteral("kept.dat");
+    put(fname, "the old program\n");
+
+    // As on a full disk: nothing can be written beyond the first bytes.
+    rlimit before{};
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit tight = before;
+    tight.rlim_cur = 100;
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &tight), 0);
+    QStringList said;
+    {
+        MessageCapture capture;
+        callWithFile(table(), "APSaveProg", fname);
+        said = capture.texts();
+    }
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, handler);
+
+    QCOMPARE(said, QStringList(QStringLiteral("\"Can not open [\" \"kept.dat\" \"]\"")));
+    QCOMPARE(contentsOf(fname), QByteArray("the old program\n"));
+    QCOMPARE(QDir().entryList({QStringLiteral("kept*")}), QStringList(fname));
+#else
+    QSKIP("no way to limit the size of files");
+#endif
+}
+
+void TestProgramFiles::shortFileClearsTheOtherRows()
+{
+    for (int k = 0; k < 200; ++k) {
+        table().enter(k, QStringLiteral("9"));
+    }
+    put(QStringLiteral("short.dat"),
+        "5 1 2 3 4 5 6 7 8 9 1 0 0 0 0 0 1 2.5 A 4\n\nremark\n" + defaultLine(0));
+    callWithFile(table(), "APLoadProg", QStringLiteral("short.dat"));
+    QCOMPARE(table().time(0)->text(), QStringLiteral("2.5"));
+    QCOMPARE(table().group(0)->text(), QStringLiteral("A"));
+    QCOMPARE(table().times(0)->text(), QStringLiteral("4"));
+    QCOMPARE(table().setPoint(0, 8)->text(), QStringLiteral("9"));
+    QCOMPARE(table().shutter(0, 6)->text(), QStringLiteral("On"));
+    for (int k = 1; k < 200; ++k) {
+        QCOMPARE(table().row(k), ProgramStep());
+    }
+}
+
+void TestProgramFiles::longFileStopsAtTheLastRow()
+{
+    QByteArray lines;
+    for (int k = 0; k < 300; ++k) {
+        lines += "0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 " + QByteArray::number(k + 1) + " ---NoGroup--- 1\n";
+    }
+    put(QStringLiteral("long.dat"), lines);
+    callWithFile(table(), "APLoadProg", QStringLiteral("long.dat"));
+    QCOMPARE(table().time(0)->text(), QStringLiteral("1"));
+    QCOMPARE(table().time(199)->text(), QStringLiteral("200"));
+}
+
+void TestProgramFiles::emptyFileClearsTheTable()
+{
+    table().enter(0, QStringLiteral("33"));
+    put(QStringLiteral("empty.dat"), QByteArray());
+    callWithFile(table(), "APLoadProg", QStringLiteral("empty.dat"));
+    QCOMPARE(table().row(0), ProgramStep());
+}
+
+void TestProgramFiles::windowsLineEndsAreRead()
+{
+    put(QStringLiteral("windows.dat"), defaultLine(0).replace("\t0\t---", "\t7\t---").replace("\n", "\r\n"));
+    callWithFile(table(), "APLoadProg", QStringLiteral("windows.dat"));
+    QCOMPARE(table().time(0)->text(), QStringLiteral("7"));
+    QCOMPARE(table().times(0)->text(), QStringLiteral("1"));
+}
+
+void TestProgramFiles::loadingKeepsNumbersAndMarks()
+{
+    table().enter(0, QStringLiteral("33"));
+    table().button("ProgRun")->click();
+    table().tick();
+    put(QStringLiteral("other.dat"), defaultLine(7));
+    callWithFile(table(), "APLoadProg", QStringLiteral("other.dat"));
+    QCOMPARE(table().marked(), QVector<int>({1}));
+    QCOMPARE(table().stepLabel(0)->text(), QStringLiteral("1"));
+    table().tick(34000);
+    QVERIFY(!table().isRunning());
+}
+
+NELVO_TEST_MAIN(TestProgramFiles)
+#include "tst_programfiles.moc"
