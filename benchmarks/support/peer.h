@@ -1,0 +1,35 @@
+#pragma once
+
+#include "support/replyingadapter.h"
+
+#include <QProcess>
+
+/// A ReplyingAdapter in a process of its own, so that its work is not counted as the station's: the running
+/// program starts itself again with a switch (see peerMain). It ends when its client leaves, or when nobody
+/// has come for half a minute.
+class Peer
+{
+public:
+    /// Starts it on a loopback address of this process alone and names that address to the station
+    /// (NELVO_ADAPTER). Answers come `delayMs` after their request.
+    explicit Peer(int delayMs);
+    ~Peer();
+    Peer(const Peer&) = delete;
+    Peer& operator=(const Peer&) = delete;
+
+    /// Awaits its end, after the station has left, and gives all it saw, in order.
+    std::vector<WireEvent> finish();
+
+private:
+    QProcess process;
+};
+
+/// A loopback address of this process alone (127.x.y.z): the adapter's port is always the same.
+QString ownAddress();
+
+/// True when the arguments ask for the peer instead of the benchmark; the main function then gives way to
+/// peerMain().
+bool isPeer(int argc, char* argv[]);
+
+/// The peer's main function.
+int peerMain(int argc, char* argv[]);
