@@ -158,6 +158,9 @@ QWidget* build(const WidgetNode& node, QWidget* parent)
         children.append(build(child, widget));
         giveRole(*widget, *children.last(), child.role);
     }
+    if (auto* tabs = qobject_cast<QTabWidget*>(widget)) {
+        tabs->setCurrentIndex(node.currentPage);
+    }
     if (!node.layout.kind.isEmpty()) {
         QLayout* layout = makeLayout(node.layout.kind);
         widget->setLayout(layout);

@@ -84,6 +84,9 @@ WidgetNode describe(const QWidget& widget)
     node.smallest = widget.minimumSize();
     node.largest = widget.maximumSize();
     node.size = widget.size();
+    if (const auto* tabs = qobject_cast<const QTabWidget*>(&widget)) {
+        node.currentPage = tabs->currentIndex();
+    }
     const QList<QWidget*> content = contentOf(widget);
     for (const QWidget* child : content) {
         node.children.append(describe(*child));
@@ -121,14 +124,14 @@ QDataStream& operator>>(QDataStream& in, LayoutNode& node)
 QDataStream& operator<<(QDataStream& out, const WidgetNode& node)
 {
     return out << node.kind << static_cast<qint32>(node.role) << node.isShown << node.smallest << node.largest
-               << node.size << node.layout << node.children;
+               << node.size << node.currentPage << node.layout << node.children;
 }
 
 QDataStream& operator>>(QDataStream& in, WidgetNode& node)
 {
     qint32 role = 0;
-    in >> node.kind >> role >> node.isShown >> node.smallest >> node.largest >> node.size >> node.layout
-        >> node.children;
+    in >> node.kind >> role >> node.isShown >> node.smallest >> node.largest >> node.size >> node.currentPage
+        >> node.layout >> node.children;
     node.role = static_cast<WidgetRole>(role);
     return in;
 }

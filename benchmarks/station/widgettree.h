@@ -40,6 +40,7 @@ struct WidgetNode
     QSize smallest;
     QSize largest;
     QSize size; ///< of a window
+    qint32 currentPage = -1; ///< of tabs
     LayoutNode layout;
     QVector<WidgetNode> children;
 };
