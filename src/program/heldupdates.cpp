@@ -1,5 +1,7 @@
 #include "program/heldupdates.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QWidget>
 
 // Not setUpdatesEnabled(): allowing updates again, it asks for one of every child, and the time goes into
@@ -22,5 +24,7 @@ HeldUpdates::~HeldUpdates()
     for (QWidget* child : qAsConst(held)) {
         child->setAttribute(Qt::WA_UpdatesDisabled, false);
     }
+    // Laid out first: otherwise it would be painted twice, before and after.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     whole.update();
 }
