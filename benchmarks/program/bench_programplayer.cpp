@@ -153,6 +153,8 @@ void stepTiming(benchmark::State& state)
     state.counters["steps"] = static_cast<double>(starts.size());
     state.counters["median_error_ms"] = median(errors);
     state.counters["worst_error_ms"] = worst;
+    state.counters["off_by_over_20ms"] = static_cast<double>(
+        std::count_if(errors.begin(), errors.end(), [](double ms) { return std::abs(ms) > 20.0; }));
     state.counters["drift_ms_a_step"]
         = (starts.back() - starts.front()) / static_cast<double>(starts.size() - 1) - stepMs;
 }
