@@ -62,8 +62,8 @@ private slots:
     void APSave();
     void APClear();
     void APCheck();
-    void APLoadProg(QString fname);
-    void APSaveProg(QString fname);
+    void APLoadProg(const QString& fname);
+    void APSaveProg(const QString& fname);
 
 private:
     void setupNames();

@@ -80,7 +80,7 @@ void MBEMain::APSave()
     showInFolder(*saveDialog);
 }
 
-void MBEMain::APLoadProg(QString fname)
+void MBEMain::APLoadProg(const QString& fname)
 {
     QFile file(fname);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
@@ -97,7 +97,7 @@ void MBEMain::APLoadProg(QString fname)
     }
 }
 
-void MBEMain::APSaveProg(QString fname)
+void MBEMain::APSaveProg(const QString& fname)
 {
     QVector<ProgramStep> steps;
     steps.reserve(progLines.size());

@@ -9,7 +9,7 @@ const QString olive = QStringLiteral("background-color: rgb(185, 185, 105);");
 
 } // namespace
 
-/// The walk of the player through the table, as its labels show it.
+/// Starting, pausing, holding and stopping a program, as its labels and buttons show it.
 class TestPlayer : public QObject
 {
     Q_OBJECT
@@ -22,17 +22,6 @@ private slots:
     void startShowsRunningAndStartsOnTheFirstTick();
     void stepEndsOnceItsTimeHasPassed();
     void labelsShowTimesWithOneDecimal();
-    void groupIsPlayedThreeTimes();
-    void timesOfALaterRowHasNoEffect();
-    void neighboursWithTheSameGroupAreOneBlock();
-    void repeatCountBelowOneRunsOnce_data();
-    void repeatCountBelowOneRunsOnce();
-    void lastRowIsPlayedButNotCounted();
-    void groupAtTheEndOfTheTableIsNotRepeated();
-    void textThatIsNoNumberEndsTheProgram();
-    void checkButtonShowsTheTotal();
-    void checkWhileRunningLeavesTheRunAlone();
-    void checkOfHugeRepeatsAnswersAtOnce();
     void holdPointWaitsForTheOperator();
     void pauseCountsTowardsTheStep();
     void pauseShowsAndDoesNothingWhenIdle();
@@ -40,7 +29,6 @@ private slots:
     void stopWhilePausedThenStartRunsUnpaused();
     void oneTickStartsOneStepHoweverLate();
     void rowsAreReadWhenTheyAreReached();
-    void repeatCountIsReadWhenTheBlockIsEntered();
 
 private:
     ProgramWindow& table() { return *fresh; }
@@ -117,140 +105,6 @@ void TestPlayer::labelsShowTimesWithOneDecimal()
     table().tick(100000);
     QCOMPARE(label("DispTime01"), QStringLiteral(" 100.0"));
     QCOMPARE(label("DispTTime01"), QStringLiteral(" 121.3"));
-}
-
-void TestPlayer::groupIsPlayedThreeTimes()
-{
-    table().enter(0, QStringLiteral("0.5"), QStringLiteral("A"), QStringLiteral("3"));
-    table().enter(1, QStringLiteral("0.25"), QStringLiteral("A"));
-    table().enter(2, QStringLiteral("1.25"), QStringLiteral("A"));
-    run();
-    QCOMPARE(label("DispTTime02"), QStringLiteral("   6.0"));
-    QStringList counts;
-    QVector<int> steps;
-    for (int i = 0; i < 10000 && table().isRunning(); ++i) {
-        table().tick();
-        if (counts.isEmpty() || counts.last() != label("DispCount01") + label("DispCount02")) {
-            counts.append(label("DispCount01") + label("DispCount02"));
-        }
-        if (table().isRunning() && label("DispTime01") == QLatin1String("0")) {
-            steps += table().marked();
-        }
-    }
-    QCOMPARE(steps, QVector<int>({1, 2, 3, 1, 2, 3, 1, 2, 3}));
-    // At the end the next block, of the row that ends the program, has been entered.
-    QCOMPARE(counts,
-        QStringList({QStringLiteral("   1   3"), QStringLiteral("   2   3"), QStringLiteral("   3   3"),
-            QStringLiteral("   1   1")}));
-}
-
-void TestPlayer::timesOfALaterRowHasNoEffect()
-{
-    table().enter(0, QStringLiteral("0.1"), QStringLiteral("A"), QStringLiteral("1"));
-    table().enter(1, QStringLiteral("0.1"), QStringLiteral("A"), QStringLiteral("9"));
-    run();
-    QCOMPARE(label("DispTTime02"), QStringLiteral("   0.2"));
-    QCOMPARE(table().play(), QVector<int>({1, 2}));
-}
-
-void TestPlayer::neighboursWithTheSameGroupAreOneBlock()
-{
-    table().enter(0, QStringLiteral("0.1"), QStringLiteral("A"), QStringLiteral("2"));
-    table().enter(1, QStringLiteral("0.1"), QStringLiteral("A"), QStringLiteral("3"));
-    table().enter(2, QStringLiteral("0.1"), QStringLiteral("a"), QStringLiteral("2"));
-    run();
-    QCOMPARE(table().play(), QVector<int>({1, 2, 1, 2, 3, 3}));
-}
-
-void TestPlayer::repeatCountBelowOneRunsOnce_data()
-{
-    QTest::addColumn<QString>("times");
-    for (const char* times : {"0", "-5", "many", ""}) {
-        QTest::newRow(times) << QString::fromLatin1(times);
-    }
-}
-
-void TestPlayer::repeatCountBelowOneRunsOnce()
-{
-    QFETCH(const QString, times);
-    table().enter(0, QStringLiteral("0.1"), QStringLiteral("A"), times);
-    table().enter(1, QStringLiteral("0.1"), QStringLiteral("B"), QStringLiteral("2"));
-    run();
-    QCOMPARE(label("DispCount01"), QStringLiteral("----"));
-    QCOMPARE(label("DispCount02"), QStringLiteral("----"));
-    QCOMPARE(label("DispTTime02"), QStringLiteral("   0.3"));
-    QCOMPARE(table().play(), QVector<int>({1, 2, 2}));
-}
-
-void TestPlayer::lastRowIsPlayedButNotCounted()
-{
-    for (int k = 0; k < 200; ++k) {
-        table().enter(k, QStringLiteral("0.01"));
-    }
-    run();
-    QCOMPARE(label("DispTTime02"), QStringLiteral("   2.0")); // 1.99
-    const QVector<int> steps = table().play();
-    QCOMPARE(steps.size(), 200);
-    QCOMPARE(steps.last(), 200);
-    QVERIFY(!table().isRunning());
-    QCOMPARE(table().marked(), QVector<int>());
-}
-
-void TestPlayer::groupAtTheEndOfTheTableIsNotRepeated()
-{
-    for (int k = 0; k < 200; ++k) {
-        table().enter(k, QStringLiteral("0.01"), QStringLiteral("A"), QStringLiteral("5"));
-    }
-    run();
-    QCOMPARE(table().play().size(), 200);
-}
-
-void TestPlayer::textThatIsNoNumberEndsTheProgram()
-{
-    table().enter(0, QStringLiteral("0.1"));
-    table().enter(1, QStringLiteral("a while"));
-    table().enter(2, QStringLiteral("0.1"));
-    run();
-    QCOMPARE(label("DispTTime02"), QStringLiteral("   0.1"));
-    QCOMPARE(table().play(), QVector<int>({1}));
-}
-
-void TestPlayer::checkButtonShowsTheTotal()
-{
-    table().enter(0, QStringLiteral("10"), QStringLiteral("A"), QStringLiteral("4"));
-    table().enter(1, QStringLiteral("-1"), QStringLiteral("A"));
-    table().enter(2, QStringLiteral("2.5"));
-    QTest::mouseClick(table().button("ProgCheck"), Qt::LeftButton);
-    QCOMPARE(label("DispTTime02"), QStringLiteral("  42.5"));
-    QVERIFY(!table().isRunning());
-}
-
-void TestPlayer::checkWhileRunningLeavesTheRunAlone()
-{
-    table().enter(0, QStringLiteral("0.1"), QStringLiteral("A"), QStringLiteral("3"));
-    table().enter(1, QStringLiteral("0.1"), QStringLiteral("B"));
-    run();
-    QCOMPARE(table().play(15), QVector<int>({1, 1}));
-    QTest::mouseClick(table().button("ProgCheck"), Qt::LeftButton);
-    QCOMPARE(label("DispCount01"), QStringLiteral("   2"));
-    QCOMPARE(table().play(), QVector<int>({1, 2}));
-}
-
-void TestPlayer::checkOfHugeRepeatsAnswersAtOnce()
-{
-    for (int k = 0; k < 199; ++k) {
-        table().enter(k, QStringLiteral("1"), QString::number(k), QStringLiteral("2147483647"));
-    }
-    QElapsedTimer timer;
-    timer.start();
-    table().button("ProgCheck")->click();
-    QCOMPARE(label("DispTTime02"), QStringLiteral("427349245753.0"));
-    for (int k = 0; k < 199; ++k) {
-        table().time(k)->setText(QStringLiteral("-1"));
-    }
-    table().button("ProgCheck")->click();
-    QCOMPARE(label("DispTTime02"), QStringLiteral("   0.0"));
-    QVERIFY(timer.elapsed() < 2000);
 }
 
 void TestPlayer::holdPointWaitsForTheOperator()
@@ -371,17 +225,6 @@ void TestPlayer::rowsAreReadWhenTheyAreReached()
     table().button("ProgClear")->click();
     table().tick(8000);
     QVERIFY(!table().isRunning());
-}
-
-void TestPlayer::repeatCountIsReadWhenTheBlockIsEntered()
-{
-    table().enter(0, QStringLiteral("0.1"), QStringLiteral("A"), QStringLiteral("2"));
-    table().enter(1, QStringLiteral("0.1"), QStringLiteral("B"), QStringLiteral("1"));
-    run();
-    table().tick();
-    table().times(0)->setText(QStringLiteral("50"));
-    table().times(1)->setText(QStringLiteral("3"));
-    QCOMPARE(table().play(), QVector<int>({1, 2, 2, 2}));
 }
 
 NELVO_TEST_MAIN(TestPlayer)

@@ -67,7 +67,6 @@ private slots:
     void shortFileClearsTheOtherRows();
     void longFileStopsAtTheLastRow();
     void emptyFileClearsTheTable();
-    void windowsLineEndsAreRead();
     void loadingKeepsNumbersAndMarks();
 
 private:
@@ -284,14 +283,6 @@ void TestProgramFiles::emptyFileClearsTheTable()
     put(QStringLiteral("empty.dat"), QByteArray());
     callWithFile(table(), "APLoadProg", QStringLiteral("empty.dat"));
     QCOMPARE(table().row(0), ProgramStep());
-}
-
-void TestProgramFiles::windowsLineEndsAreRead()
-{
-    put(QStringLiteral("windows.dat"), defaultLine(0).replace("\t0\t---", "\t7\t---").replace("\n", "\r\n"));
-    callWithFile(table(), "APLoadProg", QStringLiteral("windows.dat"));
-    QCOMPARE(table().time(0)->text(), QStringLiteral("7"));
-    QCOMPARE(table().times(0)->text(), QStringLiteral("1"));
 }
 
 void TestProgramFiles::loadingKeepsNumbersAndMarks()

@@ -1,9 +1,8 @@
 #include "program/programwindow.h"
 
-#include "support/messagecapture.h"
 #include "support/testmain.h"
 
-#include <QScrollArea>
+#include <QSet>
 
 namespace {
 
@@ -49,25 +48,6 @@ int difference(ProgramWindow& table, const QVector<ProgramStep>& expected)
     return -1;
 }
 
-QVector<ProgramStep> numberedTable()
-{
-    QVector<ProgramStep> steps;
-    for (int k = 0; k <= lastRow; ++k) {
-        steps.append(numbered(k));
-    }
-    return steps;
-}
-
-// A row out of sight cannot be clicked.
-bool pick(ProgramWindow& table, int row, RowEntry entry)
-{
-    table.window()
-        .findChild<QScrollArea*>(QStringLiteral("scrollArea"))
-        ->ensureWidgetVisible(table.stepLabel(row));
-    QCoreApplication::processEvents();
-    return pickFromMenu(*table.stepLabel(row), entry);
-}
-
 } // namespace
 
 class TestProgramTable : public QObject
@@ -82,24 +62,13 @@ private slots:
     void headersNameTheColumns();
     void barStartsIdle();
     void menuOpensOnTheStepOnly();
-    void pasteBeforeAnyCopyInsertsAnUnusedRow();
-    void copyThenPasteUpTakesTheRowsPlace();
-    void pasteDownLandsBelow();
-    void cutMovesTheRestUpAndKeepsTheLastRow();
-    void cutOfTheLastRowLeavesTheTable();
-    void pasteUpOnTheLastRowOverwritesIt();
-    void pasteDownOnTheRowBeforeTheLastOverwritesTheLast();
-    void pasteDownOnTheLastRowDoesNothing();
-    void clipHoldsOneRow();
-    void undoSaysSoAndChangesNothing();
     void clearMakesEveryRowUnused();
     void everyRowInSightIsPaintedAfterAChange();
-    void slotsWithoutARowDoNothing();
 
 private:
     ProgramWindow& table() { return *shared; }
 
-    // One window for all: building it is the larger part of a test. What a test leaves on the clip stays.
+    // One window for all: building it is the larger part of a test.
     std::unique_ptr<ProgramWindow> shared;
 };
 
@@ -185,121 +154,6 @@ void TestProgramTable::menuOpensOnTheStepOnly()
     QVERIFY(menuOf(*table().time(0)) != entries);
 }
 
-void TestProgramTable::copyThenPasteUpTakesTheRowsPlace()
-{
-    fill(table());
-    QVERIFY(pick(table(), 3, RowEntry::Copy));
-    QCOMPARE(difference(table(), numberedTable()), -1);
-    QVERIFY(pick(table(), 10, RowEntry::PasteUp));
-    QVector<ProgramStep> expected = numberedTable();
-    expected.insert(10, numbered(3));
-    expected.removeLast();
-    QCOMPARE(difference(table(), expected), -1);
-}
-
-void TestProgramTable::pasteDownLandsBelow()
-{
-    fill(table());
-    QVERIFY(pick(table(), 3, RowEntry::Copy));
-    QVERIFY(pick(table(), 10, RowEntry::PasteDown));
-    QVector<ProgramStep> expected = numberedTable();
-    expected.insert(11, numbered(3));
-    expected.removeLast();
-    QCOMPARE(difference(table(), expected), -1);
-}
-
-void TestProgramTable::cutMovesTheRestUpAndKeepsTheLastRow()
-{
-    fill(table());
-    QVERIFY(pick(table(), 5, RowEntry::Cut));
-    QVector<ProgramStep> expected = numberedTable();
-    expected.removeAt(5);
-    expected.append(numbered(lastRow));
-    QCOMPARE(difference(table(), expected), -1);
-
-    QVERIFY(pick(table(), 0, RowEntry::PasteUp));
-    expected.insert(0, numbered(5));
-    expected.removeLast();
-    QCOMPARE(difference(table(), expected), -1);
-}
-
-void TestProgramTable::cutOfTheLastRowLeavesTheTable()
-{
-    fill(table());
-    QVERIFY(pick(table(), lastRow, RowEntry::Cut));
-    QCOMPARE(difference(table(), numberedTable()), -1);
-    QVERIFY(pick(table(), 0, RowEntry::PasteUp));
-    QCOMPARE(table().row(0), numbered(lastRow));
-}
-
-void TestProgramTable::pasteUpOnTheLastRowOverwritesIt()
-{
-    fill(table());
-    QVERIFY(pick(table(), 3, RowEntry::Copy));
-    QVERIFY(pick(table(), lastRow, RowEntry::PasteUp));
-    QVector<ProgramStep> expected = numberedTable();
-    expected[lastRow] = numbered(3);
-    QCOMPARE(difference(table(), expected), -1);
-}
-
-void TestProgramTable::pasteDownOnTheRowBeforeTheLastOverwritesTheLast()
-{
-    fill(table());
-    QVERIFY(pick(table(), 3, RowEntry::Copy));
-    QVERIFY(pick(table(), lastRow - 1, RowEntry::PasteDown));
-    QVector<ProgramStep> expected = numberedTable();
-    expected[lastRow] = numbered(3);
-    QCOMPARE(difference(table(), expected), -1);
-}
-
-void TestProgramTable::pasteDownOnTheLastRowDoesNothing()
-{
-    fill(table());
-    QVERIFY(pick(table(), 3, RowEntry::Copy));
-    QVERIFY(pick(table(), lastRow, RowEntry::PasteDown));
-    QCOMPARE(difference(table(), numberedTable()), -1);
-}
-
-void TestProgramTable::pasteBeforeAnyCopyInsertsAnUnusedRow()
-{
-    fill(table());
-    QVERIFY(pick(table(), 0, RowEntry::PasteUp));
-    QCOMPARE(table().row(0), ProgramStep());
-    QCOMPARE(table().row(1), numbered(0));
-    QCOMPARE(table().time(0)->text(), QStringLiteral("0"));
-}
-
-void TestProgramTable::clipHoldsOneRow()
-{
-    fill(table());
-    QVERIFY(pick(table(), 3, RowEntry::Copy));
-    QVERIFY(pick(table(), 4, RowEntry::Copy));
-    QVERIFY(pick(table(), 0, RowEntry::PasteUp));
-    QVERIFY(pick(table(), 0, RowEntry::PasteUp));
-    QCOMPARE(table().row(0), numbered(4));
-    QCOMPARE(table().row(1), numbered(4));
-    QCOMPARE(table().row(2), numbered(0));
-}
-
-void TestProgramTable::undoSaysSoAndChangesNothing()
-{
-    fill(table());
-    QVERIFY(pick(table(), 3, RowEntry::Cut));
-    const ProgramStep before = table().row(3);
-    {
-        MessageCapture capture;
-        QVERIFY(pick(table(), 3, RowEntry::Undo));
-        LoggedMessage undone;
-        for (const LoggedMessage& message : capture.messages()) {
-            undone = message.unit == QLatin1String("program") ? message : undone;
-        }
-        QCOMPARE(undone.text, QStringLiteral("undo"));
-        QCOMPARE(undone.category, QStringLiteral("default"));
-        QVERIFY(undone.function.contains(QLatin1String("APUndo")));
-    }
-    QCOMPARE(table().row(3), before);
-}
-
 void TestProgramTable::clearMakesEveryRowUnused()
 {
     fill(table());
@@ -349,15 +203,6 @@ void TestProgramTable::everyRowInSightIsPaintedAfterAChange()
         }
     }
     QVERIFY(inSight > 60);
-}
-
-void TestProgramTable::slotsWithoutARowDoNothing()
-{
-    fill(table());
-    for (const char* slot : {"APCopy", "APCut", "APPasteUp", "APPasteDown"}) {
-        callSlot(&table().window(), slot);
-    }
-    QCOMPARE(difference(table(), numberedTable()), -1);
 }
 
 NELVO_TEST_MAIN(TestProgramTable)
