@@ -1,18 +1,22 @@
 #include "app/conditions.h"
 
+#include "app/wholefile.h"
+
 #include <QFile>
 #include <QRegularExpression>
-#include <QSaveFile>
 #include <QTextStream>
 
 namespace {
 
-void writeAll(QIODevice& device, const QMap<QString, QString>& conds)
+QByteArray dump(const QMap<QString, QString>& conds)
 {
-    QTextStream stream(&device);
+    QByteArray text;
+    QTextStream stream(&text);
     for (auto entry = conds.cbegin(); entry != conds.cend(); ++entry) {
         stream << entry.key().simplified() << '\t' << entry.value().simplified() << '\n';
     }
+    stream.flush();
+    return text;
 }
 
 } // namespace
@@ -36,17 +40,7 @@ void Conditions::load(const QString& fname)
         file.close();
     }
 
-    QSaveFile compacted(fileName);
-    compacted.setDirectWriteFallback(true);
-    if (compacted.open(QIODevice::WriteOnly | QIODevice::Text)) {
-        writeAll(compacted, conds);
-        // Asked here, because commit() does not look at how its own last flush went: on a full disk it would
-        // replace the file by the part that fitted.
-        if (!compacted.flush()) {
-            compacted.cancelWriting();
-        }
-        compacted.commit();
-    }
+    replaceFile(fileName, dump(conds));
 }
 
 QString Conditions::value(const QString& key)
@@ -60,6 +54,6 @@ void Conditions::setValue(const QString& key, const QString& value)
 
     QFile file(fileName);
     if (file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text)) {
-        writeAll(file, conds);
+        file.write(dump(conds));
     }
 }

@@ -2,6 +2,7 @@
 
 #include "app/debugline.h"
 #include "app/mbemain.h"
+#include "app/wholefile.h"
 #include "program/aline.h"
 #include "program/heldupdates.h"
 #include "program/programfile.h"
@@ -9,7 +10,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <QTextStream>
 
@@ -30,6 +30,8 @@ QFileDialog* newDialog(const QString& name, QFileDialog::AcceptMode mode)
     auto* dialog = new QFileDialog(nullptr, QString(), programFolder(), QStringLiteral("*.dat"));
     dialog->setObjectName(name);
     dialog->setAcceptMode(mode);
+    // A dialog left open must not keep the program running once its window is closed.
+    dialog->setAttribute(Qt::WA_QuitOnClose, false);
     return dialog;
 }
 
@@ -41,31 +43,14 @@ void showInFolder(QFileDialog& dialog)
     dialog.show();
 }
 
-bool save(const QString& fname, const QVector<ProgramStep>& steps)
-{
-    // The old program stays until the new one is whole.
-    QSaveFile file(fname);
-    file.setDirectWriteFallback(true);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
-        return false;
-    }
-    QTextStream stream(&file);
-    ProgramFile::write(stream, steps);
-    stream.flush();
-    // Asked here, because commit() does not look at how its own last flush went: on a full disk it would
-    // replace the file by the part that fitted.
-    if (stream.status() != QTextStream::Ok || !file.flush()) {
-        file.cancelWriting();
-    }
-    return file.commit();
-}
-
 } // namespace
 
 void MBEMain::setupProgramDialogs()
 {
     loadDialog = newDialog(QStringLiteral("loadDialog"), QFileDialog::AcceptOpen);
     saveDialog = newDialog(QStringLiteral("saveDialog"), QFileDialog::AcceptSave);
+    // Without it a name typed without ".dat" would not be offered for loading again.
+    saveDialog->setDefaultSuffix(QStringLiteral("dat"));
     connect(loadDialog, SIGNAL(fileSelected(QString)), this, SLOT(APLoadProg(QString)), Qt::UniqueConnection);
     connect(saveDialog, SIGNAL(fileSelected(QString)), this, SLOT(APSaveProg(QString)), Qt::UniqueConnection);
 }
@@ -104,7 +89,11 @@ void MBEMain::APSaveProg(const QString& fname)
     for (const aLine* line : qAsConst(progLines)) {
         steps.append(line->contents());
     }
-    if (!save(fname, steps)) {
+    QByteArray text;
+    QTextStream stream(&text);
+    ProgramFile::write(stream, steps);
+    stream.flush();
+    if (!replaceFile(fname, text)) {
         NELVO_DEBUG("program") << cannotOpen << fname << bracket;
     }
 }
