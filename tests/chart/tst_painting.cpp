@@ -40,22 +40,11 @@ public:
         view.ensurePolished();
     }
 
-    DrawRecorder drawn()
+    Drawn drawn()
     {
         DrawRecorder recorder(view.size());
         view.render(&recorder);
-        return recorder;
-    }
-
-    // Wheel notches until the time span is `span`, then as near as they come.
-    void zoomTo(double span)
-    {
-        while (view.chartView().xSpan < span) {
-            Hand::notches(view, -1);
-        }
-        while (view.chartView().xSpan > span * 1.0001) {
-            Hand::notches(view, 1);
-        }
+        return recorder.drawn();
     }
 
     QImage picture() { return view.grab().toImage(); }
@@ -101,21 +90,21 @@ QVector<int> temperatureLines(const QVector<QLine>& lines)
 void PaintingTest::theDefaultViewShowsFiveMinutesAndAThousandDegrees()
 {
     Chart chart;
-    const DrawRecorder drawn = chart.drawn();
-    QCOMPARE(drawn.texts(),
+    const Drawn drawn = chart.drawn();
+    QCOMPARE(drawn.texts,
         degrees(0, 1000) + QString::fromLatin1("0 1 2 3 4 5 [min]").split(QLatin1Char(' ')));
-    QCOMPARE(drawn.blackLines().mid(0, 4),
+    QCOMPARE(drawn.blackLines.mid(0, 4),
         (QVector<QLine>{
             {100, 20, 970, 20}, {970, 20, 970, 368}, {100, 368, 970, 368}, {100, 20, 100, 368}}));
-    QCOMPARE(timeLines(drawn.blackLines()), (QVector<int>{970, 796, 622, 448, 274, 100}));
-    QCOMPARE(temperatureLines(drawn.blackLines()),
+    QCOMPARE(timeLines(drawn.blackLines), (QVector<int>{970, 796, 622, 448, 274, 100}));
+    QCOMPARE(temperatureLines(drawn.blackLines),
         (QVector<int>{368, 333, 298, 263, 228, 194, 159, 124, 89, 54, 20}));
     // Temperatures stand left of the plot, ages below it, the unit below the ages.
     for (int i = 0; i < 11; ++i) {
-        QVERIFY(drawn.places().at(i).x() < 100.0);
+        QVERIFY(drawn.places.at(i).x() < 100.0);
     }
-    QVERIFY(drawn.places().at(11).y() > 368.0);
-    QVERIFY(drawn.places().at(17).y() > drawn.places().at(16).y());
+    QVERIFY(drawn.places.at(11).y() > 368.0);
+    QVERIFY(drawn.places.at(17).y() > drawn.places.at(16).y());
 }
 
 void PaintingTest::labelsByTimeSpan_data()
@@ -136,7 +125,7 @@ void PaintingTest::labelsByTimeSpan()
     QFETCH(int, notches);
     Chart chart;
     Hand::notches(chart.view, notches);
-    QTEST(chart.drawn().texts().mid(11).join(QLatin1Char(' ')), "labels");
+    QTEST(chart.drawn().texts.mid(11).join(QLatin1Char(' ')), "labels");
 }
 
 void PaintingTest::theSmallestTemperatureSpanHasDegrees()
@@ -148,7 +137,7 @@ void PaintingTest::theSmallestTemperatureSpanHasDegrees()
         Hand::notches(chart.view, 1);
     }
     QCOMPARE(chart.view.chartView().ySpan, 1.0);
-    QCOMPARE(chart.drawn().texts().mid(0, 2), degrees(0, 0) + QStringList(QStringLiteral("1")));
+    QCOMPARE(chart.drawn().texts.mid(0, 2), degrees(0, 0) + QStringList(QStringLiteral("1")));
 }
 
 void PaintingTest::belowZeroQuotientsAreTruncatedTowardZero()
@@ -156,9 +145,9 @@ void PaintingTest::belowZeroQuotientsAreTruncatedTowardZero()
     Chart chart;
     chart.picture();
     Hand::drag(chart.view, QPointF(500, 300), QPointF(500, 178), Qt::RightButton); // -350.57 to 649.43
-    const DrawRecorder drawn = chart.drawn();
-    QCOMPARE(drawn.texts().mid(0, 10), degrees(-300, 600));
-    QCOMPARE(temperatureLines(drawn.blackLines()).size(), 10);
+    const Drawn drawn = chart.drawn();
+    QCOMPARE(drawn.texts.mid(0, 10), degrees(-300, 600));
+    QCOMPARE(temperatureLines(drawn.blackLines).size(), 10);
 }
 
 void PaintingTest::aViewOfThePastCountsFromNow()
@@ -169,9 +158,9 @@ void PaintingTest::aViewOfThePastCountsFromNow()
         Hand::drag(chart.view, QPointF(100, 100), QPointF(970, 100), Qt::LeftButton); // 300 s each
     }
     QCOMPARE(chart.view.chartView().xOffset, 3600.0);
-    const DrawRecorder drawn = chart.drawn();
-    QCOMPARE(drawn.texts().mid(11).join(QLatin1Char(' ')), QStringLiteral("60 61 62 63 64 65 [min]"));
-    QCOMPARE(timeLines(drawn.blackLines()), (QVector<int>{970, 796, 622, 448, 274, 100}));
+    const Drawn drawn = chart.drawn();
+    QCOMPARE(drawn.texts.mid(11).join(QLatin1Char(' ')), QStringLiteral("60 61 62 63 64 65 [min]"));
+    QCOMPARE(timeLines(drawn.blackLines), (QVector<int>{970, 796, 622, 448, 274, 100}));
 }
 
 void PaintingTest::whileDraggedIntoTheFutureTheLabelsStayAges()
@@ -180,9 +169,9 @@ void PaintingTest::whileDraggedIntoTheFutureTheLabelsStayAges()
     chart.picture();
     Hand::press(chart.view, QPointF(535, 100), Qt::LeftButton);
     Hand::move(chart.view, QPointF(100, 100), Qt::LeftButton); // 150 s ahead
-    const DrawRecorder drawn = chart.drawn();
-    QCOMPARE(drawn.texts().mid(11).join(QLatin1Char(' ')), QStringLiteral("-2 -1 0 1 2 [min]"));
-    QCOMPARE(timeLines(drawn.blackLines()), (QVector<int>{883, 709, 535, 361, 187}));
+    const Drawn drawn = chart.drawn();
+    QCOMPARE(drawn.texts.mid(11).join(QLatin1Char(' ')), QStringLiteral("-2 -1 0 1 2 [min]"));
+    QCOMPARE(timeLines(drawn.blackLines), (QVector<int>{883, 709, 535, 361, 187}));
 }
 
 void PaintingTest::aChannelBeforeOrAfterTheWindowDrawsNothing()
@@ -218,7 +207,11 @@ void PaintingTest::theLineIsClippedOnePixelOutsideTheFrame()
                 qPrintable(QStringLiteral("%1, %2").arg(x).arg(y)));
         }
     }
-    QCOMPARE(image.pixel(500, 19), qRgb(255, 0, 0));
+    int onTheRim = 0;
+    for (int x = 99; x <= 970; ++x) {
+        onTheRim += image.pixel(x, 19) == qRgb(255, 0, 0) ? 1 : 0;
+    }
+    QVERIFY(onTheRim > 300);
 }
 
 void PaintingTest::aLineFollowsTheClockWhenItStepsBack()
@@ -233,8 +226,12 @@ void PaintingTest::aLineFollowsTheClockWhenItStepsBack()
     const auto y = [](double degC) { return static_cast<int>(368.0 - 348.0 / 1000.0 * degC); };
     QCOMPARE(image.pixel(x(99830.0), y(250.0)), qRgb(255, 0, 0));
     QCOMPARE(image.pixel(x(99930.0), y(550.0)), qRgb(255, 0, 0));
-    QVERIFY(image.pixel(x(99875.0), y(400.0)) == qRgb(255, 0, 0) || image.pixel(x(99875.0), y(400.0) + 1) == qRgb(255, 0, 0)
-        || image.pixel(x(99875.0), y(400.0) - 1) == qRgb(255, 0, 0));
+    // Three quarters of the way back.
+    int red = 0;
+    for (int row = y(475.0) - 2; row <= y(475.0) + 2; ++row) {
+        red += image.pixel(x(99862.5), row) == qRgb(255, 0, 0) ? 1 : 0;
+    }
+    QVERIFY(red > 0);
 }
 
 NELVO_TEST_MAIN(PaintingTest)

@@ -21,6 +21,10 @@ int DrawRecorder::metric(PaintDeviceMetric metric) const
         return 96;
     case PdmDepth:
         return 32;
+    case PdmDevicePixelRatio:
+        return 1;
+    case PdmDevicePixelRatioScaled:
+        return static_cast<int>(devicePixelRatioFScale());
     default:
         return QPaintDevice::metric(metric);
     }
@@ -31,22 +35,22 @@ DrawRecorder::Engine::Engine()
 {
 }
 
-void DrawRecorder::Engine::updateState(const QPaintEngineState& state)
+void DrawRecorder::Engine::updateState(const QPaintEngineState& update)
 {
-    if ((state.state() & DirtyPen) != 0) {
-        isBlack = state.pen().color() == QColor(0, 0, 0) && state.pen().width() == 1;
+    if ((update.state() & DirtyPen) != 0) {
+        isBlack = update.pen().color() == QColor(0, 0, 0) && update.pen().width() == 1;
     }
 }
 
 void DrawRecorder::Engine::drawLines(const QLine* lines, int count)
 {
     for (int i = 0; isBlack && i < count; ++i) {
-        blackLines.append(lines[i]);
+        drawn.blackLines.append(lines[i]);
     }
 }
 
 void DrawRecorder::Engine::drawTextItem(const QPointF& place, const QTextItem& item)
 {
-    texts.append(item.text());
-    places.append(place);
+    drawn.texts.append(item.text());
+    drawn.places.append(place);
 }

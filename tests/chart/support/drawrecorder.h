@@ -7,7 +7,15 @@
 #include <QStringList>
 #include <QVector>
 
-/// A paint device that notes what is drawn on it, texts and lines, in order.
+/// What was drawn, in order.
+struct Drawn
+{
+    QStringList texts;
+    QVector<QPointF> places; ///< of the texts: left end and base line
+    QVector<QLine> blackLines; ///< by a black pen of width 1: frame and grid
+};
+
+/// A paint device that notes what is drawn on it.
 class DrawRecorder : public QPaintDevice
 {
 public:
@@ -15,11 +23,7 @@ public:
 
     QPaintEngine* paintEngine() const override { return &engine; }
 
-    QStringList texts() const { return engine.texts; }
-    /// The rectangles of the texts' glyph runs: left end and base line.
-    QVector<QPointF> places() const { return engine.places; }
-    /// Lines drawn with a black pen of width 1: frame and grid.
-    QVector<QLine> blackLines() const { return engine.blackLines; }
+    const Drawn& drawn() const { return engine.drawn; }
 
 protected:
     int metric(PaintDeviceMetric metric) const override;
@@ -31,7 +35,7 @@ private:
         Engine();
         bool begin(QPaintDevice*) override { return true; }
         bool end() override { return true; }
-        void updateState(const QPaintEngineState& state) override;
+        void updateState(const QPaintEngineState& update) override;
         void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override { }
         void drawLines(const QLine* lines, int count) override;
         void drawTextItem(const QPointF& place, const QTextItem& item) override;
@@ -39,9 +43,7 @@ private:
         void drawRects(const QRectF*, int) override { }
         Type type() const override { return User; }
 
-        QStringList texts;
-        QVector<QPointF> places;
-        QVector<QLine> blackLines;
+        Drawn drawn;
         bool isBlack = false;
     };
 
