@@ -98,11 +98,15 @@ void addMouse()
         Hand::move(chart, QPointF(500 + turn % 100, 300), Qt::LeftButton);
     });
     add("mouse/wheel", [](TShowView& chart, int turn) { Hand::wheel(chart, turn % 2 == 0 ? 120 : -120); });
-    benchmark::RegisterBenchmark("frame_60Hz", [](benchmark::State& state) {
-        for (auto _ : state) {
-            state.SetIterationTime(1.0 / 60.0);
-        }
-    })->UseManualTime()->Iterations(10)->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("frame_60Hz",
+        [](benchmark::State& state) {
+            for (auto _ : state) {
+                state.SetIterationTime(1.0 / 60.0);
+            }
+        })
+        ->UseManualTime()
+        ->Iterations(10)
+        ->Unit(benchmark::kMillisecond);
 }
 
 PointBuffer fullBuffer(int channel)
@@ -137,25 +141,28 @@ void addAppend()
 
     // From empty to well past the limit. The same append of five goes: an interruption by the system is not
     // the buffer's.
-    benchmark::RegisterBenchmark("append/slowest", [](benchmark::State& state) {
-        constexpr int goes = 5;
-        constexpr int count = 2 * fullHistory;
-        std::vector<qint64> quickest(count, std::numeric_limits<qint64>::max());
-        for (auto _ : state) {
-            for (int go = 0; go < goes; ++go) {
-                PointBuffer buffer;
-                QElapsedTimer timer;
-                for (int i = 0; i < count; ++i) {
-                    timer.start();
-                    buffer.append({1.0 * i, 500.0});
-                    qint64& best = quickest[static_cast<std::size_t>(i)];
-                    best = std::min(best, timer.nsecsElapsed());
+    benchmark::RegisterBenchmark("append/slowest",
+        [](benchmark::State& state) {
+            constexpr int goes = 5;
+            constexpr int count = 2 * fullHistory;
+            std::vector<qint64> quickest(count, std::numeric_limits<qint64>::max());
+            for (auto _ : state) {
+                for (int go = 0; go < goes; ++go) {
+                    PointBuffer buffer;
+                    QElapsedTimer timer;
+                    for (int i = 0; i < count; ++i) {
+                        timer.start();
+                        buffer.append({1.0 * i, 500.0});
+                        qint64& best = quickest[static_cast<std::size_t>(i)];
+                        best = std::min(best, timer.nsecsElapsed());
+                    }
                 }
             }
-        }
-        state.counters["slowest_ms"]
-            = 1e-6 * static_cast<double>(*std::max_element(quickest.begin(), quickest.end()));
-    })->Iterations(1)->Unit(benchmark::kMillisecond);
+            state.counters["slowest_ms"]
+                = 1e-6 * static_cast<double>(*std::max_element(quickest.begin(), quickest.end()));
+        })
+        ->Iterations(1)
+        ->Unit(benchmark::kMillisecond);
 }
 
 // The process's resident memory in MB, 0 where the system does not tell.
@@ -177,22 +184,25 @@ double residentMb()
 // First of all benchmarks: memory that others gave back would hide what is taken.
 void addMemory()
 {
-    benchmark::RegisterBenchmark("memory/nine_channels", [](benchmark::State& state) {
-        double taken = 0.0;
-        for (auto _ : state) {
-            TShowView chart;
-            chart.resize(1000, 560);
-            chart.grab();
-            const double before = residentMb();
-            for (int channel = 0; channel < channelCount; ++channel) {
-                for (int i = 0; i < fullHistory + 5000; ++i) {
-                    chart.addPoint(channel, i, 500.0 + i % 77);
+    benchmark::RegisterBenchmark("memory/nine_channels",
+        [](benchmark::State& state) {
+            double taken = 0.0;
+            for (auto _ : state) {
+                TShowView chart;
+                chart.resize(1000, 560);
+                chart.grab();
+                const double before = residentMb();
+                for (int channel = 0; channel < channelCount; ++channel) {
+                    for (int i = 0; i < fullHistory + 5000; ++i) {
+                        chart.addPoint(channel, i, 500.0 + i % 77);
+                    }
                 }
+                taken = residentMb() - before;
             }
-            taken = residentMb() - before;
-        }
-        state.counters["MB"] = taken;
-    })->Iterations(1)->Unit(benchmark::kMillisecond);
+            state.counters["MB"] = taken;
+        })
+        ->Iterations(1)
+        ->Unit(benchmark::kMillisecond);
 }
 
 } // namespace

@@ -38,14 +38,14 @@ double Figures::counter(const std::string& name, const std::string& what) const
     return found->second.at(what);
 }
 
-void Figures::ratio(
-    const char* what, const std::string& ours, const std::string& other, double target) const
+void Figures::ratio(const char* what, const std::string& ours, const std::string& other, double target) const
 {
     if (!has(ours) || !has(other)) {
         return;
     }
     const double value = ms(ours) / ms(other);
-    std::printf("  %-58s %8.3f   target %6.3f  %s\n", what, value, target, value <= target ? "met" : "MISSED");
+    std::printf(
+        "  %-58s %8.3f   target %6.3f  %s\n", what, value, target, value <= target ? "met" : "MISSED");
 }
 
 void Figures::most(
@@ -55,7 +55,8 @@ void Figures::most(
         return;
     }
     const double value = counter(name, counterName);
-    std::printf("  %-58s %8.3f   target %6.1f  %s\n", what, value, target, value <= target ? "met" : "MISSED");
+    std::printf(
+        "  %-58s %8.3f   target %6.1f  %s\n", what, value, target, value <= target ? "met" : "MISSED");
 }
 
 void Figures::printTargets() const

@@ -19,8 +19,8 @@ Ticks ticks(double from, double to, double step)
     found.step = step;
     const double first = std::trunc(from / step);
     const double last = std::trunc(to / step);
-    const bool usable
-        = std::abs(first) < tellsApart && std::abs(last) < tellsApart && last - first < mostTicks && step > 0.0;
+    const bool usable = std::abs(first) < tellsApart && std::abs(last) < tellsApart
+        && last - first < mostTicks && step > 0.0;
     if (usable) {
         found.first = static_cast<qint64>(first);
         found.last = static_cast<qint64>(last);

@@ -13,7 +13,8 @@ struct Ticks
     qint64 last = -1;
 };
 
-/// base * 10^e with e = log10(span / base) - 0.5 truncated toward zero: about three to thirty steps in a span.
+/// base * 10^e with e = log10(span / base) - 0.5 truncated toward zero: about three to thirty steps in a
+/// span.
 double decadeStep(double span, double base);
 
 /// The ticks of a window whose ends are `from` and `to`: the quotients by the step are truncated toward zero,
@@ -38,8 +39,8 @@ struct FirstTick
     double step = 1.0;
 };
 
-/// About `n` ticks over a to b (in any order), a step being 1, 5 or 10 times a power of ten. With a = b: a and
-/// step 1. With an `n` below 1, or what is not finite, step 1 too.
+/// About `n` ticks over a to b (in any order), a step being 1, 5 or 10 times a power of ten. With a = b: a
+/// and step 1. With an `n` below 1, or what is not finite, step 1 too.
 FirstTick niceStep(double a, double b, int n);
 
 struct OrderedRange

@@ -5,8 +5,8 @@
 
 class QMouseEvent;
 
-/// What the mouse did last over the chart. Positions are the events' own, rounded to the nearest pixel (halves
-/// upwards), and all start at (0, 0).
+/// What the mouse did last over the chart. Positions are the events' own, rounded to the nearest pixel
+/// (halves upwards), and all start at (0, 0).
 class MouseC : public QObject
 {
     Q_OBJECT

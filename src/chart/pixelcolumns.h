@@ -24,6 +24,6 @@ Q_DECLARE_TYPEINFO(PixelColumn, Q_PRIMITIVE_TYPE);
 ///
 /// Truncation of a growing map is a growing map: while the seconds do not step back, the points of a column
 /// follow each other, its ends are found by searching, and its extremes are those of the values. Where the
-/// clock stepped back (or a point is not finite) a new column begins, so the line goes back to the left there,
-/// segment by segment in order of arrival, exactly as if each were drawn on its own.
+/// clock stepped back (or a point is not finite) a new column begins, so the line goes back to the left
+/// there, segment by segment in order of arrival, exactly as if each were drawn on its own.
 QVector<PixelColumn> pixelColumns(const PointBuffer& buffer, const PlotMapping& mapping, int first, int last);

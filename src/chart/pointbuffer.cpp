@@ -43,7 +43,8 @@ void PointBuffer::append(const TPoint& point)
 
 void PointBuffer::store(const TPoint& point)
 {
-    const bool ordered = finite(point) && (count == 0 || (isFinite(count - 1) && point.sec >= at(count - 1).sec));
+    const bool ordered
+        = finite(point) && (count == 0 || (isFinite(count - 1) && point.sec >= at(count - 1).sec));
     if (!ordered) {
         stretchStarts.push_back(firstPlace + dropped + count);
     }

@@ -46,8 +46,8 @@ public:
         return pieces.at(place / pieceSize).points.at(place % pieceSize);
     }
 
-    /// The last point at or before `sec`, or 0 when every point is later or there are fewer than two. A binary
-    /// search, which takes the seconds as growing; where they step back it still gives a valid index.
+    /// The last point at or before `sec`, or 0 when every point is later or there are fewer than two. A
+    /// binary search, which takes the seconds as growing; where they step back it still gives a valid index.
     int firstIndex(double sec) const;
 
     /// The first point after `first` that is later than `sec`, or the last point when there is none.
@@ -59,8 +59,8 @@ public:
     /// One past the block that holds `index`, at most size(): range(index, blockEnd(index) - 1) is cheap.
     int blockEnd(int index) const;
 
-    /// One past the stretch that holds `index`. Within a stretch the seconds never step back and everything is
-    /// finite; a point that is not finite is a stretch of its own.
+    /// One past the stretch that holds `index`. Within a stretch the seconds never step back and everything
+    /// is finite; a point that is not finite is a stretch of its own.
     int stretchEnd(int index) const;
 
     /// False for a point that has no place in the chart: NaN or infinite.

@@ -7,8 +7,8 @@
 
 class LineSelect;
 
-/// The time chart: a row of line selectors above the drawing area. Channels are numbered in the order in which
-/// they are added.
+/// The time chart: a row of line selectors above the drawing area. Channels are numbered in the order in
+/// which they are added.
 class TShow : public QFrame, private Ui::TShow
 {
     Q_OBJECT

@@ -95,7 +95,8 @@ void paintLabels(
         const QString text = number.arg(grid.ageSec(k) / grid.unit.divisor);
         ChCoord::drawFitted(painter, box, centred, ChCoord::FitBox, text, font);
     }
-    const QRectF box(at.right - 5 * at.unitX, at.bottom + 1.6 * at.unitY, at.rightMargin + 4 * at.unitX, at.unitY);
+    const QRectF box(
+        at.right - 5 * at.unitX, at.bottom + 1.6 * at.unitY, at.rightMargin + 4 * at.unitX, at.unitY);
     const QString caption = QStringLiteral("[%1]").arg(unitName);
     ChCoord::drawFitted(painter, box, rightAligned, ChCoord::FitBox, caption, font);
 }

@@ -105,8 +105,9 @@ void AxisTicksTest::aWindowWithoutUsableNumbersHasNoTicks()
     const double infinite = std::numeric_limits<double>::infinity();
     const double nan = std::numeric_limits<double>::quiet_NaN();
     for (const double odd : {infinite, -infinite, nan, 1e300}) {
-        for (const AxisTicks::Ticks& ticks : {AxisTicks::ticks(odd, odd, 1.0), AxisTicks::ticks(0.0, odd, 1.0),
-                 AxisTicks::ticks(odd, 10.0, 1.0), AxisTicks::ticks(0.0, 10.0, 0.0)}) {
+        for (const AxisTicks::Ticks& ticks :
+            {AxisTicks::ticks(odd, odd, 1.0), AxisTicks::ticks(0.0, odd, 1.0),
+                AxisTicks::ticks(odd, 10.0, 1.0), AxisTicks::ticks(0.0, 10.0, 0.0)}) {
             QVERIFY(ticks.last < ticks.first);
         }
     }

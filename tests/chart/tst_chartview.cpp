@@ -145,7 +145,8 @@ void ChartViewTest::aThousandNotchesOnTheTemperatureAxisEndWithAReset()
 void ChartViewTest::whatIsNotFiniteIsIgnored()
 {
     ChartView view;
-    for (const double odd : {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity()}) {
+    for (const double odd :
+        {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity()}) {
         view.dragX(odd);
         view.dragY(odd);
         view.zoomY(true, odd);

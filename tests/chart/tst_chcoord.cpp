@@ -64,7 +64,8 @@ void ChCoordTest::startsWithItsColoursAndZeros()
     QCOMPARE(coord.colors[2], QColor(140, 180, 140));
     QCOMPARE(coord.colors[3], QColor(0, 0, 0));
     const PlotMapping& map = coord.mapping();
-    for (const double value : {map.left, map.right, map.top, map.bottom, map.xMin, map.xMax, map.yMin, map.yMax}) {
+    for (const double value :
+        {map.left, map.right, map.top, map.bottom, map.xMin, map.xMax, map.yMin, map.yMax}) {
         QCOMPARE(value, 0.0);
     }
 }
@@ -179,8 +180,8 @@ void ChCoordTest::fitsTextToItsBox()
     QPainter painter(&image);
     QFont font;
     const double before = font.pointSizeF();
-    const QRectF covered = ChCoord::measureFitted(
-        painter, box, centred, ChCoord::FitBox, QStringLiteral("500"), font);
+    const QRectF covered
+        = ChCoord::measureFitted(painter, box, centred, ChCoord::FitBox, QStringLiteral("500"), font);
     // The point size is a whole number and a font's height grows a pixel at a time.
     QVERIFY2(covered.width() <= box.width() + 4 && covered.height() <= box.height() + 4,
         qPrintable(QStringLiteral("%1 x %2").arg(covered.width()).arg(covered.height())));

@@ -117,8 +117,8 @@ void LineStrokesTest::nothingIsDrawnFromOrToWhatIsNotFinite()
 {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const double infinite = std::numeric_limits<double>::infinity();
-    for (const TPoint& odd : {TPoint{150.0, nan}, TPoint{nan, 500.0}, TPoint{150.0, infinite},
-             TPoint{-infinite, 500.0}}) {
+    for (const TPoint& odd :
+        {TPoint{150.0, nan}, TPoint{nan, 500.0}, TPoint{150.0, infinite}, TPoint{-infinite, 500.0}}) {
         PointBuffer buffer;
         buffer.append({10.0, 100.0});
         buffer.append({100.0, 100.0});

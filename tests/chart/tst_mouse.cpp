@@ -122,7 +122,8 @@ void MouseTest::leftDragIntoTheFutureReturnsToNow()
 void MouseTest::rightDragShiftsTemperature()
 {
     Chart chart;
-    Hand::drag(chart.view, QPointF(400, 100), QPointF(500, 187), Qt::RightButton); // a fifth of the plot, down
+    Hand::drag(
+        chart.view, QPointF(400, 100), QPointF(500, 187), Qt::RightButton); // a fifth of the plot, down
     QCOMPARE(chart.state().yOffset, -200.0);
     QCOMPARE(chart.state().yMin(), 200.0);
     QCOMPARE(chart.state().xOffset, 0.0);

@@ -91,11 +91,10 @@ void PaintingTest::theDefaultViewShowsFiveMinutesAndAThousandDegrees()
 {
     Chart chart;
     const Drawn drawn = chart.drawn();
-    QCOMPARE(drawn.texts,
-        degrees(0, 1000) + QString::fromLatin1("0 1 2 3 4 5 [min]").split(QLatin1Char(' ')));
+    QCOMPARE(
+        drawn.texts, degrees(0, 1000) + QString::fromLatin1("0 1 2 3 4 5 [min]").split(QLatin1Char(' ')));
     QCOMPARE(drawn.blackLines.mid(0, 4),
-        (QVector<QLine>{
-            {100, 20, 970, 20}, {970, 20, 970, 368}, {100, 368, 970, 368}, {100, 20, 100, 368}}));
+        (QVector<QLine>{{100, 20, 970, 20}, {970, 20, 970, 368}, {100, 368, 970, 368}, {100, 20, 100, 368}}));
     QCOMPARE(timeLines(drawn.blackLines), (QVector<int>{970, 796, 622, 448, 274, 100}));
     QCOMPARE(temperatureLines(drawn.blackLines),
         (QVector<int>{368, 333, 298, 263, 228, 194, 159, 124, 89, 54, 20}));

@@ -114,9 +114,10 @@ void TShowTest::theFormIsAsDrawn()
     const auto* view = show.findChild<TShowView*>(QStringLiteral("TSView"));
     QVERIFY(view != nullptr);
     QCOMPARE(view->toolTip(),
-        QStringLiteral("<html><head/><body><p>Shift in X : Drag with Left button</p><p>Mag. in X : Wheel with no "
-                       "button</p><p>Shift in Y : Drag with Right button</p><p>Mag. in Y : Wheel with Right "
-                       "button</p></body></html>"));
+        QStringLiteral(
+            "<html><head/><body><p>Shift in X : Drag with Left button</p><p>Mag. in X : Wheel with no "
+            "button</p><p>Shift in Y : Drag with Right button</p><p>Mag. in Y : Wheel with Right "
+            "button</p></body></html>"));
     QCOMPARE(view->styleSheet(), QStringLiteral("background-color: rgb(255, 255, 255);"));
     QCOMPARE(view->frameShape(), QFrame::StyledPanel);
     QCOMPARE(view->frameShadow(), QFrame::Raised);
@@ -169,12 +170,13 @@ void TShowTest::selectorsStandInOrder()
 void TShowTest::swatchesTakeTheTablesColours()
 {
     Chart chart;
-    const QStringList colours{QStringLiteral("0, 0, 0"), QStringLiteral("255, 0, 0"), QStringLiteral("0, 255, 0"),
-        QStringLiteral("0, 0, 255"), QStringLiteral("230, 230, 0"), QStringLiteral("230, 0, 230"),
-        QStringLiteral("0, 230, 230"), QStringLiteral("180, 230, 0"), QStringLiteral("180, 0, 230")};
+    const QStringList colours{QStringLiteral("0, 0, 0"), QStringLiteral("255, 0, 0"),
+        QStringLiteral("0, 255, 0"), QStringLiteral("0, 0, 255"), QStringLiteral("230, 230, 0"),
+        QStringLiteral("230, 0, 230"), QStringLiteral("0, 230, 230"), QStringLiteral("180, 230, 0"),
+        QStringLiteral("180, 0, 230")};
     for (int i = 0; i < 9; ++i) {
-        QCOMPARE(styleOf(*chart.selectors.at(i)),
-            QStringLiteral("background-color: rgb(%1);").arg(colours.at(i)));
+        QCOMPARE(
+            styleOf(*chart.selectors.at(i)), QStringLiteral("background-color: rgb(%1);").arg(colours.at(i)));
     }
 }
 
@@ -335,8 +337,8 @@ void TShowTest::paintsAtEverySizeWithoutAWarning()
         alone.addPoint(0, 700.0 + i, 3.0 * i);
     }
     alone.setStartTime(startMs);
-    for (const QSize& size : {QSize(0, 0), QSize(1, 1), QSize(2, 1), QSize(1, 40), QSize(40, 1), QSize(13, 13),
-             QSize(30, 30), QSize(50, 49), QSize(4000, 3000)}) {
+    for (const QSize& size : {QSize(0, 0), QSize(1, 1), QSize(2, 1), QSize(1, 40), QSize(40, 1),
+             QSize(13, 13), QSize(30, 30), QSize(50, 49), QSize(4000, 3000)}) {
         alone.resize(size);
         QImage image(qMax(size.width(), 1), qMax(size.height(), 1), QImage::Format_RGB32);
         alone.render(&image);

@@ -5,7 +5,8 @@
 #include <QStringList>
 #include <QVector>
 
-/// Histories of every kind, for comparing pictures and for measuring. The same arguments give the same points.
+/// Histories of every kind, for comparing pictures and for measuring. The same arguments give the same
+/// points.
 namespace ChartData {
 
 /// The kinds that points() knows.

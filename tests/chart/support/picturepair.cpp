@@ -76,7 +76,8 @@ bool PicturePair::isSame()
     if (ours == plain) {
         return true;
     }
-    qInfo().noquote() << (ours.size() == plain.size() ? difference(ours, plain) : QStringLiteral("sizes differ"))
+    qInfo().noquote() << (ours.size() == plain.size() ? difference(ours, plain)
+                                                      : QStringLiteral("sizes differ"))
                       << "at" << chart.size() << "x span" << reference.xSpan << "offset" << reference.xOffset
                       << "y span" << reference.ySpan << "offset" << reference.yOffset;
     const QString folder = qEnvironmentVariable("NELVO_KEEP_PICTURES");

@@ -38,8 +38,8 @@ private:
     double py(double y) const;
     int firstIndex(const QVector<QPointF>& points, double sec) const;
     void drawSeries(QPainter& painter) const;
-    static void fittedText(
-        QPainter& painter, double x, double y, double w, double h, int flags, const QString& text, QFont& font);
+    static void fittedText(QPainter& painter, double x, double y, double w, double h, int flags,
+        const QString& text, QFont& font);
 
     double left = 0.0;
     double right = 0.0;
