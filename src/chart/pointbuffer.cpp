@@ -17,6 +17,22 @@ void widen(ValueRange& range, double value)
     range.highest = std::max(range.highest, value);
 }
 
+void widen(ValueRange& range, const ValueRange& other)
+{
+    range.lowest = std::min(range.lowest, other.lowest);
+    range.highest = std::max(range.highest, other.highest);
+}
+
+// Adds the point that is number `count` of its piece to the block it belongs to.
+void widenLast(QVector<ValueRange>& blocks, int count, int blockSize, double value)
+{
+    if (count % blockSize == 0) {
+        blocks.append({value, value});
+    } else {
+        widen(blocks.last(), value);
+    }
+}
+
 } // namespace
 
 PointBuffer::PointBuffer(int maximum, int thinTarget, Mode mode)
@@ -52,14 +68,12 @@ void PointBuffer::store(const TPoint& point)
         Piece piece;
         piece.points.reserve(pieceSize);
         piece.blocks.reserve(pieceSize / blockSize);
+        piece.wideBlocks.reserve(pieceSize / wideBlockSize);
         pieces.append(piece);
     }
     Piece& piece = pieces.last();
-    if (piece.points.size() % blockSize == 0) {
-        piece.blocks.append({point.degC, point.degC});
-    } else {
-        widen(piece.blocks.last(), point.degC);
-    }
+    widenLast(piece.blocks, piece.points.size(), blockSize, point.degC);
+    widenLast(piece.wideBlocks, piece.points.size(), wideBlockSize, point.degC);
     piece.points.append(point);
     ++count;
 }
@@ -137,20 +151,16 @@ ValueRange PointBuffer::range(int first, int last) const
     while (place < end) {
         const Piece& piece = pieces.at(place / pieceSize);
         const int inPiece = place % pieceSize;
-        const int inBlock = inPiece % blockSize;
-        if (inBlock == 0 && end - place >= blockSize) {
-            const ValueRange& block = piece.blocks.at(inPiece / blockSize);
-            found.lowest = std::min(found.lowest, block.lowest);
-            found.highest = std::max(found.highest, block.highest);
+        if (inPiece % wideBlockSize == 0 && end - place >= wideBlockSize) {
+            widen(found, piece.wideBlocks.at(inPiece / wideBlockSize));
+            place += wideBlockSize;
+        } else if (inPiece % blockSize == 0 && end - place >= blockSize) {
+            widen(found, piece.blocks.at(inPiece / blockSize));
             place += blockSize;
-            continue;
+        } else {
+            widen(found, piece.points.at(inPiece).degC);
+            ++place;
         }
-        const int steps = std::min(end - place, blockSize - inBlock);
-        const TPoint* points = piece.points.constData() + inPiece;
-        for (int i = 0; i < steps; ++i) {
-            widen(found, points[i].degC);
-        }
-        place += steps;
     }
     return found;
 }

@@ -67,13 +67,16 @@ public:
     bool isFinite(int index) const;
 
 private:
-    static constexpr int blockSize = 16;
-    static constexpr int pieceSize = 1024; // a multiple of blockSize
+    // Each a multiple of the one before it.
+    static constexpr int blockSize = 8;
+    static constexpr int wideBlockSize = 64;
+    static constexpr int pieceSize = 1024;
 
     struct Piece
     {
         QVector<TPoint> points;
         QVector<ValueRange> blocks;
+        QVector<ValueRange> wideBlocks;
     };
 
     void store(const TPoint& point);
