@@ -9,7 +9,6 @@
 #include "support/ticks.h"
 
 #include <QCheckBox>
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QWindow>
@@ -19,8 +18,6 @@ class TShowTest : public QObject
     Q_OBJECT
 
 private slots:
-    void theFormIsAsDrawn();
-    void aSelectorsFormIsAsDrawn();
     void selectorsStandInOrder();
     void swatchesTakeTheTablesColours();
     void aColourOfItsOwnReachesTheSwatchAlone();
@@ -102,58 +99,6 @@ const QColor red(255, 0, 0);
 const QColor green(0, 255, 0);
 
 } // namespace
-
-void TShowTest::theFormIsAsDrawn()
-{
-    const TShow show;
-    QCOMPARE(show.objectName(), QStringLiteral("TShow"));
-    QCOMPARE(show.size(), QSize(914, 520));
-    QCOMPARE(show.windowTitle(), QStringLiteral("Frame"));
-    QCOMPARE(show.frameShape(), QFrame::StyledPanel);
-    QCOMPARE(show.frameShadow(), QFrame::Raised);
-    const auto* view = show.findChild<TShowView*>(QStringLiteral("TSView"));
-    QVERIFY(view != nullptr);
-    QCOMPARE(view->toolTip(),
-        QStringLiteral(
-            "<html><head/><body><p>Shift in X : Drag with Left button</p><p>Mag. in X : Wheel with no "
-            "button</p><p>Shift in Y : Drag with Right button</p><p>Mag. in Y : Wheel with Right "
-            "button</p></body></html>"));
-    QCOMPARE(view->styleSheet(), QStringLiteral("background-color: rgb(255, 255, 255);"));
-    QCOMPARE(view->frameShape(), QFrame::StyledPanel);
-    QCOMPARE(view->frameShadow(), QFrame::Raised);
-    QCOMPARE(view->sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
-    QCOMPARE(view->sizePolicy().verticalPolicy(), QSizePolicy::Expanding);
-    auto* grid = show.findChild<QGridLayout*>(QStringLiteral("gridLayout"));
-    QVERIFY(grid != nullptr);
-    for (int row = 0; row < 2; ++row) {
-        int foundRow = -1;
-        int column = -1;
-        int rows = 0;
-        int columns = 0;
-        grid->getItemPosition(row, &foundRow, &column, &rows, &columns);
-        QCOMPARE(QVector<int>({foundRow, column, rows, columns}), QVector<int>({row, 0, 1, 2}));
-    }
-    QCOMPARE(grid->itemAtPosition(0, 0)->layout()->objectName(), QStringLiteral("LSLine"));
-    QCOMPARE(grid->itemAtPosition(1, 0)->widget()->objectName(), QStringLiteral("TSView"));
-}
-
-void TShowTest::aSelectorsFormIsAsDrawn()
-{
-    const LineSelect selector;
-    QCOMPARE(selector.objectName(), QStringLiteral("LineSelect"));
-    QCOMPARE(selector.size(), QSize(99, 22));
-    QCOMPARE(selector.windowTitle(), QStringLiteral("Frame"));
-    QCOMPARE(selector.frameShape(), QFrame::StyledPanel);
-    QCOMPARE(selector.frameShadow(), QFrame::Raised);
-    QVERIFY(selector.testAttribute(Qt::WA_MouseTracking));
-    QCOMPARE(boxOf(selector).text(), QStringLiteral("CheckBox"));
-    auto* grid = selector.findChild<QGridLayout*>(QStringLiteral("gridLayout"));
-    QCOMPARE(grid->spacing(), 1);
-    QCOMPARE(grid->contentsMargins(), QMargins(1, 1, 1, 1));
-    QVERIFY(grid->itemAtPosition(0, 0) == nullptr);
-    QCOMPARE(grid->itemAtPosition(0, 1)->widget()->objectName(), QStringLiteral("LineSel"));
-    QCOMPARE(grid->itemAtPosition(0, 2)->widget()->objectName(), QStringLiteral("LineColor"));
-}
 
 void TShowTest::selectorsStandInOrder()
 {

@@ -1,0 +1,136 @@
+// Magnifying the chart with the wheel.
+
+#include "chart/support/hand.h"
+#include "chart/support/shownchart.h"
+#include "support/testmain.h"
+
+#include <QApplication>
+#include <QWheelEvent>
+
+class WheelTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void wheelScalesTimeByOneFactorWhateverItsSize();
+    void wheelWithTheRightButtonKeepsTheTemperatureUnderTheCursor();
+    void wheelUsesTheRecordedPositionNotItsOwn();
+    void wheelWithTheLeftButtonChangesNothingButRepaints();
+    void modifiersDoNotChangeTheWheel();
+    void aThousandNotchesAndATripleSpanStillPaint();
+};
+
+void WheelTest::wheelScalesTimeByOneFactorWhateverItsSize()
+{
+    for (const int delta : {15, 120, 240, 960}) {
+        ShownChart chart;
+        Hand::wheel(chart.view, delta);
+        QCOMPARE(chart.state().xSpan, 270.0);
+        QCOMPARE(chart.state().xMax(10000.0), 10000.0);
+    }
+    ShownChart chart;
+    Hand::wheel(chart.view, -120);
+    QCOMPARE(chart.state().xSpan, 300.0 / 0.9);
+    QCOMPARE(chart.state().ySpan, 1000.0);
+    Hand::notches(chart.view, -300);
+    QCOMPARE(chart.state().xSpan, 2592000.0);
+    Hand::notches(chart.view, 300);
+    QCOMPARE(chart.state().xSpan, 1.0);
+}
+
+void WheelTest::wheelWithTheRightButtonKeepsTheTemperatureUnderTheCursor()
+{
+    ShownChart chart;
+    // 500 deg C stands in the middle of the plot, at y = 242.5: the pixels beside it will do.
+    Hand::press(chart.view, QPointF(500, 242), Qt::RightButton);
+    const double before = chart.view.coordinates().dataY(242);
+    Hand::wheel(chart.view, 120);
+    QCOMPARE(chart.state().ySpan, 900.0);
+    QCOMPARE(chart.state().xSpan, 300.0);
+    chart.view.grab();
+    QCOMPARE(chart.view.coordinates().dataY(242), before);
+    Hand::notches(chart.view, -1);
+    QCOMPARE(chart.state().ySpan, 1000.0);
+    Hand::release(chart.view, QPointF(500, 242), Qt::RightButton);
+
+    // With a plot of an even height, exactly: from 50 to 950.
+    chart.view.resize(1000, 100); // from y = 5 to y = 92
+    chart.view.resize(1000, 400); // from y = 20 to y = 368
+    Hand::doubleClick(chart.view, QPointF(500, 194));
+    chart.view.grab();
+    Hand::press(chart.view, QPointF(500, 194), Qt::RightButton);
+    Hand::wheel(chart.view, 120);
+    QCOMPARE(chart.state().ySpan, 900.0);
+    QCOMPARE(chart.state().yOffset, -50.0);
+    QCOMPARE(chart.state().yMin(), 50.0);
+    QCOMPARE(chart.state().yMax(), 950.0);
+}
+
+void WheelTest::wheelUsesTheRecordedPositionNotItsOwn()
+{
+    ShownChart here;
+    ShownChart elsewhere;
+    for (ShownChart* chart : {&here, &elsewhere}) {
+        Hand::press(chart->view, QPointF(500, 400), Qt::RightButton);
+    }
+    Hand::wheel(here.view, 120, QPointF(500, 400));
+    Hand::wheel(elsewhere.view, 120, QPointF(10, 30));
+    QVERIFY(here.state().yOffset != 0.0);
+    QCOMPARE(elsewhere.state().yOffset, here.state().yOffset);
+}
+
+void WheelTest::wheelWithTheLeftButtonChangesNothingButRepaints()
+{
+    ShownChart chart;
+    Hand::press(chart.view, QPointF(500, 242), Qt::LeftButton);
+    chart.paints.take();
+    Hand::wheel(chart.view, 120);
+    Hand::wheel(chart.view, -120);
+    Hand::wheel(chart.view, 120);
+    QCOMPARE(chart.state().xSpan, 300.0);
+    QCOMPARE(chart.state().ySpan, 1000.0);
+    QCOMPARE(chart.state().yOffset, 0.0);
+    QCOMPARE(chart.paints.take(), 1);
+}
+
+void WheelTest::modifiersDoNotChangeTheWheel()
+{
+    for (const Qt::KeyboardModifier modifier : {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier}) {
+        ShownChart chart;
+        Hand::wheel(chart.view, 120, QPointF(500, 200), modifier);
+        QCOMPARE(chart.state().xSpan, 270.0);
+    }
+    // As some platforms report the wheel with Alt held: sideways.
+    ShownChart chart;
+    QWheelEvent event(QPointF(9, 9), QPointF(9, 9), QPoint(), QPoint(120, 0), Qt::NoButton, Qt::AltModifier,
+        Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&chart.view, &event);
+    QCOMPARE(chart.state().xSpan, 270.0);
+}
+
+void WheelTest::aThousandNotchesAndATripleSpanStillPaint()
+{
+    ShownChart chart;
+    for (int i = 0; i < 500; ++i) {
+        chart.view.addPoint(0, 20.0 * i, i % 2 == 0 ? 1e9 : -1e9);
+    }
+    for (const Qt::MouseButton held : {Qt::NoButton, Qt::RightButton}) {
+        if (held != Qt::NoButton) {
+            Hand::press(chart.view, QPointF(500, 200), held);
+        }
+        for (int turn = 0; turn < 4; ++turn) {
+            Hand::notches(chart.view, turn % 2 == 0 ? 1000 : -1000);
+            QVERIFY(!chart.view.grab().isNull());
+        }
+        Hand::notches(chart.view, -9000); // to where the numbers end
+        QVERIFY(!chart.view.grab().isNull());
+        Hand::release(chart.view, QPointF(500, 200), Qt::RightButton);
+    }
+    Hand::doubleClick(chart.view, QPointF(500, 200));
+    QVERIFY(!chart.view.grab().isNull());
+    QCOMPARE(chart.view.coordinates().mapping().yMax, 1000.0);
+    QCOMPARE(chart.view.coordinates().dataX(970.0), 10000.0);
+}
+
+NELVO_TEST_MAIN(WheelTest)
+#include "tst_wheel.moc"
