@@ -48,7 +48,7 @@ private slots:
     void ActivateCell();
     void WatchTMP();
     void RunStopTControll();
-    void newData(int bytes, QByteArray data);
+    void newData(int bytes, const QByteArray& data);
     // program/
     void APStart();
     void APPause();
