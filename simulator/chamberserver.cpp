@@ -11,6 +11,7 @@ namespace {
 /// While a client leaves more than this unread, nothing more is read from it.
 constexpr qint64 mostUnsent = 0x100000;
 constexpr qint64 chunkSize = 0x10000;
+constexpr int successorPatienceMs = 100;
 
 QByteArray place(const QHostAddress& address, quint16 port)
 {
@@ -57,18 +58,33 @@ void ChamberServer::acceptClients()
 {
     while (QTcpSocket* newcomer = server.nextPendingConnection()) {
         newcomer->setSocketOption(QAbstractSocket::LowDelayOption, 1);
-        if (client != nullptr) {
-            turnAway(newcomer);
+        if (client == nullptr) {
+            admit(newcomer);
             continue;
         }
-        client = newcomer;
-        client->setReadBufferSize(mostUnsent);
-        rack.resetAdapter();
-        log("connected");
-        connect(client, &QTcpSocket::readyRead, this, &ChamberServer::receive);
-        connect(client, &QTcpSocket::bytesWritten, this, &ChamberServer::receive);
-        connect(client, &QTcpSocket::disconnected, this, &ChamberServer::releaseClient);
-        receive();
+        // A client that comes right after another one left may be seen before the other's leaving is.
+        QTimer::singleShot(successorPatienceMs, newcomer, [this, newcomer] {
+            if (client == nullptr) {
+                admit(newcomer);
+            } else {
+                turnAway(newcomer);
+            }
+        });
+    }
+}
+
+void ChamberServer::admit(QTcpSocket* newcomer)
+{
+    client = newcomer;
+    client->setReadBufferSize(mostUnsent);
+    rack.resetAdapter();
+    log("connected");
+    connect(client, &QTcpSocket::readyRead, this, &ChamberServer::receive);
+    connect(client, &QTcpSocket::bytesWritten, this, &ChamberServer::receive);
+    connect(client, &QTcpSocket::disconnected, this, &ChamberServer::releaseClient);
+    receive();
+    if (client != nullptr && client->state() == QAbstractSocket::UnconnectedState) {
+        releaseClient(); // it left while it waited
     }
 }
 

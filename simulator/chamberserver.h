@@ -48,6 +48,7 @@ signals:
 
 private:
     void acceptClients();
+    void admit(QTcpSocket* newcomer);
     void turnAway(QTcpSocket* second);
     void receive();
     void take(const AdapterLine& line);

@@ -104,7 +104,7 @@
     </message>
     <message>
         <source>Seq. Ctrl.</source>
-        <translation>進行制御</translation>
+        <translation>シーケンス制御</translation>
     </message>
     <message>
         <source>Step</source>

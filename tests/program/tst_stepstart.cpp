@@ -195,7 +195,7 @@ void TestStepStart::endlessShortStepsLeaveTheWindowAlive()
     QTimer other;
     connect(&other, &QTimer::timeout, this, [&idleTurns] { ++idleTurns; });
     other.start(0);
-    QTRY_VERIFY(idleTurns > 200 && table.masks().size() > 20);
+    QTRY_VERIFY_WITH_TIMEOUT(idleTurns > 200 && table.masks().size() > 20, 60000);
     table.button("ProgRun")->click();
     QVERIFY(!table.isRunning());
 }

@@ -92,6 +92,28 @@ private slots:
         QCOMPARE(client.received, QByteArray("1\r\n"));
     }
 
+    void aClientRightAfterAnotherIsTakenIn()
+    {
+        RunningChamber chamber;
+        for (int i = 0; i < 10; ++i) {
+            QTcpSocket first;
+            first.connectToHost(QHostAddress(QHostAddress::LocalHost), chamber.server.port());
+            QVERIFY(first.waitForConnected());
+            // Connected before the server gets to see that the first one leaves.
+            QTcpSocket second;
+            second.connectToHost(QHostAddress(QHostAddress::LocalHost), chamber.server.port());
+            QVERIFY(second.waitForConnected());
+            QTRY_COMPARE(chamber.events.count("connected"), 2 * i + 1);
+            first.disconnectFromHost();
+            QTRY_COMPARE(chamber.events.count("connected"), 2 * i + 2);
+            second.disconnectFromHost();
+            QTRY_COMPARE(chamber.events.count("disconnected"), 2 * i + 2);
+        }
+        for (const QByteArray& event : qAsConst(chamber.events)) {
+            QVERIFY2(!event.startsWith("refused"), event.constData());
+        }
+    }
+
     void manyRequestsInARowAreAllAnsweredInOrder()
     {
         RunningChamber chamber;

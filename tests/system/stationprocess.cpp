@@ -19,6 +19,8 @@ private slots:
     void language();
     void goesOnUnderFaultyReplies_data();
     void goesOnUnderFaultyReplies();
+    void staysUpWhenRepliesStop_data();
+    void staysUpWhenRepliesStop();
     void outlivesACutConnection();
     void staysUpWithoutAnAdapter();
 
@@ -135,6 +137,31 @@ void StationProcess::goesOnUnderFaultyReplies_data()
     QTest::newRow("er and garbled") << words("--fault er=0.2 --fault garbled=0.2");
     QTest::newRow("duplicate, split, merged")
         << words("--fault duplicate=0.2 --fault split=0.3 --fault merged=0.2");
+    QTest::newRow("wrong length") << words("--fault wrong-length=0.02");
+}
+
+void StationProcess::staysUpWhenRepliesStop_data()
+{
+    QTest::addColumn<QStringList>("faults");
+    QTest::newRow("lost") << words("--fault lost=0.1");
+    QTest::newRow("late") << words("--fault late=0.3");
+    QTest::newRow("silent") << words("--fault silent=0.1");
+    QTest::newRow("half-open") << words("--fault half-open=0.1");
+}
+
+void StationProcess::staysUpWhenRepliesStop()
+{
+    QFETCH(QStringList, faults);
+    Process chamber(simulator, chamberOptions(faults));
+    QVERIFY(chamber.waitForText(QStringLiteral("listening ")));
+    Process nelvo(station, {}, stationEnvironment());
+    QVERIFY(chamber.waitForText(QStringLiteral("fault ")));
+    chamber.terminate();
+    // It takes the loss of the connection in, which it could not if it hung.
+    QVERIFY(nelvo.isRunning());
+    nelvo.terminate();
+    QVERIFY(!nelvo.isRunning());
+    QVERIFY(!nelvo.output().contains(QStringLiteral("QIODevice")));
 }
 
 void StationProcess::goesOnUnderFaultyReplies()

@@ -1,0 +1,11 @@
+# Installs the build into a folder of the test's own and looks for both names of the station.
+set(prefix "${BUILD}/installed-by-test")
+file(REMOVE_RECURSE "${prefix}")
+execute_process(COMMAND "${CMAKE_COMMAND}" --install "${BUILD}" --prefix "${prefix}" OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+file(GLOB_RECURSE found "${prefix}/*Nelvo*")
+list(LENGTH found count)
+file(GLOB_RECURSE second "${prefix}/*Nelvoe*")
+if(NOT count EQUAL 2 OR NOT second)
+  message(FATAL_ERROR "awaited Nelvo and Nelvoe under ${prefix} but found: ${found}")
+endif()
+file(REMOVE_RECURSE "${prefix}")
