@@ -12,7 +12,7 @@ public:
     void ReportRuns(const std::vector<Run>& runs) override;
 
     bool has(const std::string& name) const { return timesMs.count(name) != 0; }
-    /// The median real time of one iteration, 0 when it did not run.
+    /// The median processor time of one iteration, 0 when it did not run.
     double ms(const std::string& name) const;
     double counter(const std::string& name, const std::string& what) const;
 
@@ -20,6 +20,7 @@ public:
     void printTargets() const;
 
 private:
+    static void row(const char* what, double value, double target);
     void ratio(const char* what, const std::string& ours, const std::string& other, double target) const;
     void most(const char* what, const std::string& name, const std::string& counterName, double target) const;
 

@@ -165,12 +165,6 @@ ValueRange PointBuffer::range(int first, int last) const
     return found;
 }
 
-int PointBuffer::blockEnd(int index) const
-{
-    const int place = dropped + index;
-    return std::min(count, place - place % blockSize + blockSize - dropped);
-}
-
 int PointBuffer::stretchEnd(int index) const
 {
     const qint64 oldest = firstPlace + dropped;

@@ -56,8 +56,24 @@ public:
     /// The extremes of the points `first` to `last`, both included, all of which are finite.
     ValueRange range(int first, int last) const;
 
-    /// One past the block that holds `index`, at most size(): range(index, blockEnd(index) - 1) is cheap.
-    int blockEnd(int index) const;
+    /// A short run of points whose extremes are known: the rest of the block that holds `first`, or the
+    /// points up to `last` when it ends before.
+    struct Block
+    {
+        int end; ///< one past the last point
+        ValueRange range;
+    };
+    Block blockFrom(int first, int last) const
+    {
+        const int place = dropped + first;
+        const int inBlock = place % blockSize;
+        const int end = first - inBlock + blockSize;
+        if (inBlock == 0 && end <= last + 1) {
+            return {end, pieces.at(place / pieceSize).blocks.at(place % pieceSize / blockSize)};
+        }
+        const int shortEnd = end <= last ? end : last + 1;
+        return {shortEnd, range(first, shortEnd - 1)};
+    }
 
     /// One past the stretch that holds `index`. Within a stretch the seconds never step back and everything
     /// is finite; a point that is not finite is a stretch of its own.

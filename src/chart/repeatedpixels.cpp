@@ -3,6 +3,7 @@
 #include "chart/columnrows.h"
 
 #include <cmath>
+#include <vector>
 
 namespace {
 
@@ -11,33 +12,29 @@ class DotFinder
 public:
     DotFinder(const PointBuffer& points, const PlotMapping& map, const QVector<PixelColumn>& all)
         : buffer(points)
+        , mapping(map)
         , pixels(map)
         , columns(all)
         , visible{std::trunc(map.top) - margin, std::trunc(map.bottom) + margin}
     {
-        seenIn.fill(-1, std::max(0, static_cast<int>(visible.count())));
+        seenIn.assign(static_cast<std::size_t>(std::max(0.0, visible.count())), -1);
     }
 
     // Appends the dots of column `index` outside of the rows `hidden`.
     void find(int index, const Rows& hidden, QVector<QLine>& dots)
     {
         const PixelColumn& column = columns.at(index);
+        // Values that are in the hidden rows for certain.
+        const ValueRange hiddenValues{mapping.dataY(hidden.bottom), mapping.dataY(hidden.top + 0.5)};
         int point = column.first;
         while (point < column.last) {
-            const int end = std::min(buffer.blockEnd(point), column.last + 1);
-            const ValueRange range = buffer.range(point, end - 1);
-            const double top = row(range.highest);
-            const double bottom = row(range.lowest);
-            if (top == bottom && end - point > 1) {
-                mark(index, top, hidden, dots);
-            } else if (!hidden.contains(top, bottom)) {
-                scan(index, point, end, hidden, dots);
+            const PointBuffer::Block block = buffer.blockFrom(point, column.last);
+            const bool isHidden = block.range.lowest >= hiddenValues.lowest
+                && block.range.highest <= hiddenValues.highest && hidden.count() > 1.0;
+            if (!isHidden) {
+                findInBlock(index, point, block, hidden, dots);
             }
-            // From the block's last point to the next one.
-            if (end <= column.last) {
-                scan(index, end - 1, end + 1, hidden, dots);
-            }
-            point = end;
+            point = block.end;
         }
     }
 
@@ -46,15 +43,27 @@ private:
 
     double row(double degC) const { return wholePixel(pixels.y(degC)); }
 
-    void scan(int index, int point, int end, const Rows& hidden, QVector<QLine>& dots)
+    void findInBlock(
+        int index, int point, const PointBuffer::Block& block, const Rows& hidden, QVector<QLine>& dots)
     {
-        double before = row(buffer.at(point).degC);
-        for (int i = point + 1; i < end; ++i) {
-            const double here = row(buffer.at(i).degC);
+        const double top = row(block.range.highest);
+        const double bottom = row(block.range.lowest);
+        if (top == bottom && block.end - point > 1) {
+            mark(index, top, hidden, dots);
+            return;
+        }
+        const TPoint* points = &buffer.at(point);
+        double before = row(points[0].degC);
+        for (int i = 1; i < block.end - point; ++i) {
+            const double here = row(points[i].degC);
             if (here == before) {
                 mark(index, here, hidden, dots);
             }
             before = here;
+        }
+        // On to the next block's first point; for the other blocks that pair adds no row.
+        if (block.end <= columns.at(index).last && row(buffer.at(block.end).degC) == before) {
+            mark(index, before, hidden, dots);
         }
     }
 
@@ -63,7 +72,7 @@ private:
         if (!visible.contains(y, y) || hidden.contains(y, y)) {
             return;
         }
-        int& seen = seenIn[static_cast<int>(y - visible.top)];
+        int& seen = seenIn[static_cast<std::size_t>(y - visible.top)];
         if (seen == index) {
             return;
         }
@@ -74,10 +83,11 @@ private:
     }
 
     const PointBuffer& buffer;
+    const PlotMapping& mapping;
     const PixelMap pixels;
     const QVector<PixelColumn>& columns;
     Rows visible;
-    QVector<int> seenIn; // for each visible row, the last column with a dot in it
+    std::vector<int> seenIn; // for each visible row, the last column with a dot in it
 };
 
 } // namespace

@@ -37,9 +37,9 @@ public:
         lastDot = std::numeric_limits<double>::quiet_NaN();
         int point = column.first + 1;
         while (point <= column.last) {
-            const int end = std::min(buffer.blockEnd(point), column.last + 1);
-            drawBlock(point, end);
-            point = end;
+            const PointBuffer::Block block = buffer.blockFrom(point, column.last);
+            drawBlock(point, block);
+            point = block.end;
         }
         finishRun();
     }
@@ -47,11 +47,11 @@ public:
 private:
     static constexpr double nearOrigin = 64.0; // device pixels
 
-    // The segments that lead to the points `from` to `end` - 1.
-    void drawBlock(int from, int end)
+    // The segments that lead to the points of a block, `from` on.
+    void drawBlock(int from, const PointBuffer::Block& block)
     {
-        const ValueRange range = buffer.range(from, end - 1);
-        const Rows rows{row(range.highest), row(range.lowest)};
+        const int end = block.end;
+        const Rows rows{row(block.range.highest), row(block.range.lowest)};
         if (runLength > 0 && inside.contains(rows.top, rows.bottom)) {
             extendRun(rows, end - from);
             before = row(buffer.at(end - 1).degC);
