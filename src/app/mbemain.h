@@ -48,7 +48,7 @@ private slots:
     void ActivateCell();
     void WatchTMP();
     void RunStopTControll();
-    void newData(int bytes, const QByteArray& data);
+    void newData(int bytes, QByteArray data);
     // program/
     void APStart();
     void APPause();
@@ -62,8 +62,8 @@ private slots:
     void APSave();
     void APClear();
     void APCheck();
-    void APLoadProg(const QString& fname);
-    void APSaveProg(const QString& fname);
+    void APLoadProg(QString fname);
+    void APSaveProg(QString fname);
 
 private:
     void setupNames();

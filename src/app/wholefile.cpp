@@ -13,6 +13,8 @@ bool replaceFile(const QString& name, const QByteArray& text)
     // replace the file by the part that fitted.
     if (file.write(text) != text.size() || !file.flush()) {
         file.cancelWriting();
+        file.commit();
+        return false;
     }
     return file.commit();
 }

@@ -8,7 +8,7 @@ TShow::TShow(QWidget* parent)
     setupUi(this);
 }
 
-LineSelect* TShow::addLine(const QString& name, bool shown, int red, int green, int blue)
+LineSelect* TShow::addLine(QString name, bool shown, int red, int green, int blue)
 {
     const int channel = selectors.size();
     auto* selector = new LineSelect(this);

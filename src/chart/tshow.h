@@ -19,7 +19,7 @@ public:
     /// Adds a channel and returns its selector, which the chart owns. A negative `red` takes the swatch's
     /// colour from the chart's table. Any other colour (0 to 255 each) reaches the swatch alone: the line is
     /// always drawn in the table's colour.
-    LineSelect* addLine(const QString& name, bool shown, int red, int green, int blue);
+    LineSelect* addLine(QString name, bool shown, int red, int green, int blue);
 
 public slots:
     /// Time zero of the points' seconds, in ms since the epoch.

@@ -2,7 +2,7 @@
 
 namespace {
 
-// Enough for months of a real program's steps; walked in a few milliseconds.
+// More than a real program has; walked in a few milliseconds.
 constexpr int walkedSteps = 50000;
 
 } // namespace

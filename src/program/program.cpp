@@ -159,6 +159,9 @@ void MBEMain::pasteAt(int row)
 
 void MBEMain::APUndo()
 {
+    if (senderLine() < 0) {
+        return;
+    }
     NELVO_DEBUG("program") << "undo";
 }
 

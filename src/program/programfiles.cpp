@@ -65,7 +65,7 @@ void MBEMain::APSave()
     showInFolder(*saveDialog);
 }
 
-void MBEMain::APLoadProg(const QString& fname)
+void MBEMain::APLoadProg(QString fname)
 {
     QFile file(fname);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
@@ -82,7 +82,7 @@ void MBEMain::APLoadProg(const QString& fname)
     }
 }
 
-void MBEMain::APSaveProg(const QString& fname)
+void MBEMain::APSaveProg(QString fname)
 {
     QVector<ProgramStep> steps;
     steps.reserve(progLines.size());

@@ -53,7 +53,7 @@ bool MBEMain::setTMP(unsigned char channel, double setPointDegC)
     return SndTMPCtrl(buffer.data(), bufferSize, true, true);
 }
 
-void MBEMain::newData(int bytes, const QByteArray& line)
+void MBEMain::newData(int bytes, QByteArray line)
 {
     if (!ControllerMessage::isReply(bytes, line)) {
         return;

@@ -272,4 +272,4 @@ void TestALine::signalsAndSlotsKeepTheirNames()
 }
 
 NELVO_TEST_MAIN(TestALine)
-#include "tst_aline.moc"
+#include "aline.moc"

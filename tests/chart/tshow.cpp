@@ -1,9 +1,9 @@
 // The chart as the main window uses it: channels, selectors, points and repaints.
 
+#include "chart/tshow.h"
 #include "chart/lineselect.h"
 #include "chart/support/hand.h"
 #include "chart/support/paintcount.h"
-#include "chart/tshow.h"
 #include "support/messagecapture.h"
 #include "support/testmain.h"
 #include "support/ticks.h"
@@ -294,4 +294,4 @@ void TShowTest::paintsAtEverySizeWithoutAWarning()
 }
 
 NELVO_TEST_MAIN(TShowTest)
-#include "tst_tshow.moc"
+#include "tshow.moc"

@@ -289,4 +289,4 @@ void TestBlockCursor::lastRepeatCannotOverflow()
 }
 
 NELVO_TEST_MAIN(TestBlockCursor)
-#include "tst_blockcursor.moc"
+#include "blockcursor.moc"

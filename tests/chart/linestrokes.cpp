@@ -182,4 +182,4 @@ void LineStrokesTest::valuesAtTheEndsOfAllNumbersAreDrawnSomewhere()
 }
 
 NELVO_TEST_MAIN(LineStrokesTest)
-#include "tst_linestrokes.moc"
+#include "linestrokes.moc"

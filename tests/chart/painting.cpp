@@ -234,4 +234,4 @@ void PaintingTest::aLineFollowsTheClockWhenItStepsBack()
 }
 
 NELVO_TEST_MAIN(PaintingTest)
-#include "tst_painting.moc"
+#include "painting.moc"

@@ -184,4 +184,4 @@ void PictureTest::inAWindowAwayFromItsOrigin()
 }
 
 NELVO_TEST_MAIN(PictureTest)
-#include "tst_picture.moc"
+#include "picture.moc"

@@ -5,8 +5,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QFileDialog>
-#include <QStandardPaths>
 
 #ifdef Q_OS_UNIX
 #include <csignal>
@@ -14,12 +12,6 @@
 #endif
 
 namespace {
-
-QString folder()
-{
-    return QStandardPaths::writableLocation(QStandardPaths::DesktopLocation)
-        + QStringLiteral("/NelvoProgram");
-}
 
 QByteArray contentsOf(const QString& fname)
 {
@@ -55,9 +47,6 @@ private slots:
     void cleanupTestCase();
     void init();
 
-    void dialogsAreReadyAndHidden();
-    void buttonsShowTheDialogsInTheirFolder();
-    void dialogsDriveSaveAndLoad();
     void savedDefaultTableIsUnchangedWhenLoaded();
     void savedTableIsUnchangedWhenLoaded();
     void fileMissingLeavesTheTable();
@@ -76,11 +65,6 @@ private:
 
 void TestProgramFiles::initTestCase()
 {
-    // The desktop is not among the places that the tests' standard paths move.
-    qputenv("HOME", QDir::currentPath().toLocal8Bit());
-    if (!folder().startsWith(QDir::currentPath())) {
-        QSKIP("the tests cannot have a desktop of their own");
-    }
     shared = std::make_unique<ProgramWindow>();
 }
 
@@ -92,59 +76,6 @@ void TestProgramFiles::cleanupTestCase()
 void TestProgramFiles::init()
 {
     table().button("ProgClear")->click();
-}
-
-void TestProgramFiles::dialogsAreReadyAndHidden()
-{
-    QFileDialog* load = table().dialog("loadDialog");
-    QFileDialog* save = table().dialog("saveDialog");
-    QCOMPARE(load->acceptMode(), QFileDialog::AcceptOpen);
-    QCOMPARE(save->acceptMode(), QFileDialog::AcceptSave);
-    for (QFileDialog* dialog : {load, save}) {
-        QCOMPARE(dialog->nameFilters(), QStringList(QStringLiteral("*.dat")));
-        QVERIFY(dialog->parent() == nullptr);
-        QVERIFY(!dialog->isModal());
-        QVERIFY(!dialog->isVisible());
-    }
-    QVERIFY(!QDir(folder()).exists()); // made when first needed
-}
-
-void TestProgramFiles::buttonsShowTheDialogsInTheirFolder()
-{
-    QVERIFY(QDir::isAbsolutePath(folder()));
-    table().button("ProgSave")->click();
-    table().button("ProgLoad")->click();
-    for (const char* name : {"saveDialog", "loadDialog"}) {
-        QFileDialog* dialog = table().dialog(name);
-        QVERIFY(dialog->isVisible());
-        QVERIFY(!dialog->isModal());
-        QCOMPARE(dialog->directory().absolutePath(), folder());
-        dialog->close();
-    }
-    QVERIFY(QDir(folder()).exists());
-    table().button("ProgLoad")->click();
-    QVERIFY(table().dialog("loadDialog")->isVisible()); // outlives its use
-    table().dialog("loadDialog")->close();
-}
-
-void TestProgramFiles::dialogsDriveSaveAndLoad()
-{
-    table().enter(0, QStringLiteral("33"), QStringLiteral("G"), QStringLiteral("2"));
-    const QString fname = folder() + QStringLiteral("/picked.dat");
-    for (const char* name : {"saveDialog", "loadDialog"}) {
-        QFileDialog* dialog = table().dialog(name);
-        table().button(dialog->acceptMode() == QFileDialog::AcceptSave ? "ProgSave" : "ProgLoad")->click();
-        auto* nameEdit = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-        nameEdit->setText(fname);
-        QTest::keyClick(nameEdit, Qt::Key_Return);
-        QTRY_VERIFY(!dialog->isVisible());
-        if (dialog->acceptMode() == QFileDialog::AcceptSave) {
-            QCOMPARE(contentsOf(fname).count('\n'), 200);
-            table().button("ProgClear")->click();
-        }
-    }
-    QCOMPARE(table().time(0)->text(), QStringLiteral("33"));
-    QCOMPARE(table().group(0)->text(), QStringLiteral("G"));
 }
 
 void TestProgramFiles::savedDefaultTableIsUnchangedWhenLoaded()
@@ -299,4 +230,4 @@ void TestProgramFiles::loadingKeepsNumbersAndMarks()
 }
 
 NELVO_TEST_MAIN(TestProgramFiles)
-#include "tst_programfiles.moc"
+#include "programfiles.moc"

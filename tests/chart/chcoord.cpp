@@ -237,4 +237,4 @@ void ChCoordTest::textAsItIsKeepsItsSize()
 }
 
 NELVO_TEST_MAIN(ChCoordTest)
-#include "tst_chcoord.moc"
+#include "chcoord.moc"

@@ -228,4 +228,4 @@ void TestPlayer::rowsAreReadWhenTheyAreReached()
 }
 
 NELVO_TEST_MAIN(TestPlayer)
-#include "tst_player.moc"
+#include "player.moc"

@@ -133,4 +133,4 @@ void WheelTest::aThousandNotchesAndATripleSpanStillPaint()
 }
 
 NELVO_TEST_MAIN(WheelTest)
-#include "tst_wheel.moc"
+#include "wheel.moc"

@@ -177,4 +177,4 @@ void AxisTicksTest::orderedRange()
 }
 
 NELVO_TEST_MAIN(AxisTicksTest)
-#include "tst_axisticks.moc"
+#include "axisticks.moc"

@@ -236,4 +236,4 @@ void TestProgramFile::lastLineNeedsNoLineEnd()
 }
 
 NELVO_TEST_MAIN(TestProgramFile)
-#include "tst_programfile.moc"
+#include "programfile.moc"

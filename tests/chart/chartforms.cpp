@@ -69,4 +69,4 @@ void ChartFormsTest::aSelectorsFormIsAsDrawn()
 }
 
 NELVO_TEST_MAIN(ChartFormsTest)
-#include "tst_chartforms.moc"
+#include "chartforms.moc"

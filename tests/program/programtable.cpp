@@ -206,4 +206,4 @@ void TestProgramTable::everyRowInSightIsPaintedAfterAChange()
 }
 
 NELVO_TEST_MAIN(TestProgramTable)
-#include "tst_programtable.moc"
+#include "programtable.moc"

@@ -236,4 +236,4 @@ void PointBufferTest::aCopyIsAHistoryOfItsOwn()
 }
 
 NELVO_TEST_MAIN(PointBufferTest)
-#include "tst_pointbuffer.moc"
+#include "pointbuffer.moc"

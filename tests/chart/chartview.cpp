@@ -158,4 +158,4 @@ void ChartViewTest::whatIsNotFiniteIsIgnored()
 }
 
 NELVO_TEST_MAIN(ChartViewTest)
-#include "tst_chartview.moc"
+#include "chartview.moc"

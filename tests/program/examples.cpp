@@ -142,4 +142,4 @@ void TestExamples::programPlaysToItsEnd()
 }
 
 NELVO_TEST_MAIN(TestExamples)
-#include "tst_examples.moc"
+#include "examples.moc"

@@ -190,4 +190,4 @@ void MouseTest::draggingBeforeTheFirstPaintIsHarmless()
 }
 
 NELVO_TEST_MAIN(MouseTest)
-#include "tst_mouse.moc"
+#include "mouse.moc"

@@ -201,4 +201,4 @@ void TestStepStart::endlessShortStepsLeaveTheWindowAlive()
 }
 
 NELVO_TEST_MAIN(TestStepStart)
-#include "tst_stepstart.moc"
+#include "stepstart.moc"
