@@ -129,7 +129,6 @@ void TestProgramDialogs::anOpenDialogDoesNotOutliveTheWindow()
     patience.start(10000);
     QTimer::singleShot(0, &table().window(), &QWidget::close);
     QCOMPARE(QCoreApplication::exec(), 0);
-    QVERIFY(table().dialog("loadDialog")->isVisible());
     table().dialog("loadDialog")->close();
 }
 
