@@ -2,6 +2,7 @@
 
 #include "app/conditions.h"
 
+#include "support/files.h"
 #include "support/messagecapture.h"
 #include "support/testmain.h"
 
@@ -16,17 +17,12 @@ const QString fileName = QStringLiteral("NelvoCurrentStat.dat");
 
 void write(const QByteArray& bytes)
 {
-    QFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
-        qFatal("cannot write the state file");
-    }
+    putFile(fileName, bytes);
 }
 
-/// The file's lines as they are, line ends of the platform made LF.
 QByteArray content()
 {
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly | QIODevice::Text) ? file.readAll() : QByteArray("no file");
+    return fileText(fileName);
 }
 
 } // namespace

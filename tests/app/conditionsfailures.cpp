@@ -1,6 +1,7 @@
 // The settings store where its file cannot be written: never a word, never a lost setting.
 
 #include "app/conditions.h"
+#include "support/files.h"
 #include "support/messagecapture.h"
 #include "support/testmain.h"
 
@@ -9,28 +10,18 @@
 
 #include <memory>
 
-#ifdef Q_OS_UNIX
-#include <csignal>
-#include <sys/resource.h>
-#endif
-
 namespace {
 
 const QString fileName = QStringLiteral("NelvoCurrentStat.dat");
 
 void write(const QByteArray& bytes)
 {
-    QFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
-        qFatal("cannot write the state file");
-    }
+    putFile(fileName, bytes);
 }
 
-/// The file's lines as they are, line ends of the platform made LF.
 QByteArray content()
 {
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly | QIODevice::Text) ? file.readAll() : QByteArray("no file");
+    return fileText(fileName);
 }
 
 QStringList everythingHere()
@@ -67,7 +58,7 @@ void ConditionsFailures::init()
 
 void ConditionsFailures::cleanup()
 {
-    // This part never says a word, whatever happens to its file.
+    // The store never says a word, whatever happens to its file.
     const QStringList said = MessageCapture::texts();
     messages.reset();
     QCOMPARE(said, QStringList());
@@ -128,29 +119,21 @@ void ConditionsFailures::rewriteNeverTruncatesTheOldFile()
     QCOMPARE(content(), QByteArray("a\t2\nb\t1\n"));
 }
 
-// A full disk, as near as a test comes to it: no file of this process may grow beyond four bytes.
 void ConditionsFailures::failedRewriteKeepsTheOldFile()
 {
-#ifndef Q_OS_UNIX
-    QSKIP("needs a file size limit");
-#else
+    if (!FullDisk::isPossible()) {
+        QSKIP("needs a full disk");
+    }
     write("b 1\na 2\n");
     const QStringList before = everythingHere();
-    rlimit limit{};
-    QCOMPARE(getrlimit(RLIMIT_FSIZE, &limit), 0);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit tight = limit;
-    tight.rlim_cur = 4;
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &tight), 0);
     Conditions conditions;
-    conditions.load(fileName);
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &limit), 0);
-    std::signal(SIGXFSZ, handler);
-
+    {
+        const FullDisk full(4);
+        conditions.load(fileName);
+    }
     QCOMPARE(content(), QByteArray("b 1\na 2\n"));
     QCOMPARE(everythingHere(), before);
     QCOMPARE(conditions.value(QStringLiteral("a")), QStringLiteral("2"));
-#endif
 }
 
 void ConditionsFailures::fileComesBackWithTheNextChange()

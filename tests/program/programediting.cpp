@@ -1,62 +1,13 @@
-#include "program/programwindow.h"
+#include "program/numberedtable.h"
 
 #include "support/messagecapture.h"
 #include "support/testmain.h"
 
 #include <QScrollArea>
 
+using namespace NumberedTable;
+
 namespace {
-
-constexpr int lastRow = 199;
-
-ProgramStep numbered(int k)
-{
-    ProgramStep step;
-    for (size_t ch = 0; ch < 9; ++ch) {
-        step.setPoints.at(ch) = QString::number(100 * k + static_cast<int>(ch));
-    }
-    step.shutters.at(static_cast<size_t>(k % 7)) = true;
-    step.timeSec = k + 0.5;
-    step.group = QStringLiteral("G%1").arg(k / 3);
-    step.times = k + 1;
-    return step;
-}
-
-void fill(ProgramWindow& table)
-{
-    for (int k = 0; k <= lastRow; ++k) {
-        const ProgramStep step = numbered(k);
-        for (int ch = 0; ch < 9; ++ch) {
-            table.setPoint(k, ch)->setText(step.setPoints.at(static_cast<size_t>(ch)));
-        }
-        for (int n = 0; n < 7; ++n) {
-            if (step.shutters.at(static_cast<size_t>(n))) {
-                table.shutter(k, n)->click();
-            }
-        }
-        table.enter(k, QString::number(step.timeSec), step.group, QString::number(step.times));
-    }
-}
-
-// The first row that differs from `expected`, -1 when none does.
-int difference(ProgramWindow& table, const QVector<ProgramStep>& expected)
-{
-    for (int k = 0; k <= lastRow; ++k) {
-        if (table.row(k) != expected[k] || table.stepLabel(k)->text() != QString::number(k + 1)) {
-            return k;
-        }
-    }
-    return -1;
-}
-
-QVector<ProgramStep> numberedTable()
-{
-    QVector<ProgramStep> steps;
-    for (int k = 0; k <= lastRow; ++k) {
-        steps.append(numbered(k));
-    }
-    return steps;
-}
 
 // A row out of sight cannot be clicked.
 bool pick(ProgramWindow& table, int row, RowEntry entry)
@@ -120,7 +71,7 @@ void TestProgramEditing::pasteBeforeAnyCopyInsertsAnUnusedRow()
     fill(table());
     QVERIFY(pick(table(), 0, RowEntry::PasteUp));
     QCOMPARE(table().row(0), ProgramStep());
-    QCOMPARE(table().row(1), numbered(0));
+    QCOMPARE(table().row(1), row(0));
     QCOMPARE(table().time(0)->text(), QStringLiteral("0"));
 }
 
@@ -128,10 +79,10 @@ void TestProgramEditing::copyThenPasteUpTakesTheRowsPlace()
 {
     fill(table());
     QVERIFY(pick(table(), 3, RowEntry::Copy));
-    QCOMPARE(difference(table(), numberedTable()), -1);
+    QCOMPARE(difference(table(), rows()), -1);
     QVERIFY(pick(table(), 10, RowEntry::PasteUp));
-    QVector<ProgramStep> expected = numberedTable();
-    expected.insert(10, numbered(3));
+    QVector<ProgramStep> expected = rows();
+    expected.insert(10, row(3));
     expected.removeLast();
     QCOMPARE(difference(table(), expected), -1);
 }
@@ -141,8 +92,8 @@ void TestProgramEditing::pasteDownLandsBelow()
     fill(table());
     QVERIFY(pick(table(), 3, RowEntry::Copy));
     QVERIFY(pick(table(), 10, RowEntry::PasteDown));
-    QVector<ProgramStep> expected = numberedTable();
-    expected.insert(11, numbered(3));
+    QVector<ProgramStep> expected = rows();
+    expected.insert(11, row(3));
     expected.removeLast();
     QCOMPARE(difference(table(), expected), -1);
 }
@@ -151,13 +102,13 @@ void TestProgramEditing::cutMovesTheRestUpAndKeepsTheLastRow()
 {
     fill(table());
     QVERIFY(pick(table(), 5, RowEntry::Cut));
-    QVector<ProgramStep> expected = numberedTable();
+    QVector<ProgramStep> expected = rows();
     expected.removeAt(5);
-    expected.append(numbered(lastRow));
+    expected.append(row(lastRow));
     QCOMPARE(difference(table(), expected), -1);
 
     QVERIFY(pick(table(), 0, RowEntry::PasteUp));
-    expected.insert(0, numbered(5));
+    expected.insert(0, row(5));
     expected.removeLast();
     QCOMPARE(difference(table(), expected), -1);
 }
@@ -166,9 +117,9 @@ void TestProgramEditing::cutOfTheLastRowLeavesTheTable()
 {
     fill(table());
     QVERIFY(pick(table(), lastRow, RowEntry::Cut));
-    QCOMPARE(difference(table(), numberedTable()), -1);
+    QCOMPARE(difference(table(), rows()), -1);
     QVERIFY(pick(table(), 0, RowEntry::PasteUp));
-    QCOMPARE(table().row(0), numbered(lastRow));
+    QCOMPARE(table().row(0), row(lastRow));
 }
 
 void TestProgramEditing::pasteUpOnTheLastRowOverwritesIt()
@@ -176,8 +127,8 @@ void TestProgramEditing::pasteUpOnTheLastRowOverwritesIt()
     fill(table());
     QVERIFY(pick(table(), 3, RowEntry::Copy));
     QVERIFY(pick(table(), lastRow, RowEntry::PasteUp));
-    QVector<ProgramStep> expected = numberedTable();
-    expected[lastRow] = numbered(3);
+    QVector<ProgramStep> expected = rows();
+    expected[lastRow] = row(3);
     QCOMPARE(difference(table(), expected), -1);
 }
 
@@ -186,8 +137,8 @@ void TestProgramEditing::pasteDownOnTheRowBeforeTheLastOverwritesTheLast()
     fill(table());
     QVERIFY(pick(table(), 3, RowEntry::Copy));
     QVERIFY(pick(table(), lastRow - 1, RowEntry::PasteDown));
-    QVector<ProgramStep> expected = numberedTable();
-    expected[lastRow] = numbered(3);
+    QVector<ProgramStep> expected = rows();
+    expected[lastRow] = row(3);
     QCOMPARE(difference(table(), expected), -1);
 }
 
@@ -196,7 +147,7 @@ void TestProgramEditing::pasteDownOnTheLastRowDoesNothing()
     fill(table());
     QVERIFY(pick(table(), 3, RowEntry::Copy));
     QVERIFY(pick(table(), lastRow, RowEntry::PasteDown));
-    QCOMPARE(difference(table(), numberedTable()), -1);
+    QCOMPARE(difference(table(), rows()), -1);
 }
 
 void TestProgramEditing::clipHoldsOneRow()
@@ -206,9 +157,9 @@ void TestProgramEditing::clipHoldsOneRow()
     QVERIFY(pick(table(), 4, RowEntry::Copy));
     QVERIFY(pick(table(), 0, RowEntry::PasteUp));
     QVERIFY(pick(table(), 0, RowEntry::PasteUp));
-    QCOMPARE(table().row(0), numbered(4));
-    QCOMPARE(table().row(1), numbered(4));
-    QCOMPARE(table().row(2), numbered(0));
+    QCOMPARE(table().row(0), row(4));
+    QCOMPARE(table().row(1), row(4));
+    QCOMPARE(table().row(2), row(0));
 }
 
 void TestProgramEditing::undoSaysSoAndChangesNothing()
@@ -238,7 +189,7 @@ void TestProgramEditing::slotsWithoutARowDoNothing()
         callSlot(&table().window(), slot);
     }
     QCOMPARE(MessageCapture::texts(), QStringList());
-    QCOMPARE(difference(table(), numberedTable()), -1);
+    QCOMPARE(difference(table(), rows()), -1);
 }
 
 NELVO_TEST_MAIN(TestProgramEditing)

@@ -1,30 +1,13 @@
 #include "program/programwindow.h"
 
+#include "support/files.h"
 #include "support/messagecapture.h"
 #include "support/testmain.h"
 
 #include <QDir>
 #include <QFile>
 
-#ifdef Q_OS_UNIX
-#include <csignal>
-#include <sys/resource.h>
-#endif
-
 namespace {
-
-QByteArray contentsOf(const QString& fname)
-{
-    QFile file(fname);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
-}
-
-void put(const QString& fname, const QByteArray& bytes)
-{
-    QFile file(fname);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
 
 QByteArray defaultLine(int k)
 {
@@ -86,7 +69,7 @@ void TestProgramFiles::savedDefaultTableIsUnchangedWhenLoaded()
     for (int k = 0; k < 200; ++k) {
         expected += defaultLine(k);
     }
-    QCOMPARE(contentsOf(fname).replace("\r\n", "\n"), expected);
+    QCOMPARE(fileText(fname), expected);
     callWithFile(table(), "APLoadProg", fname);
     for (int k = 0; k < 200; ++k) {
         QCOMPARE(table().row(k), ProgramStep());
@@ -105,14 +88,14 @@ void TestProgramFiles::savedTableIsUnchangedWhenLoaded()
         before.append(table().row(k));
     }
     callWithFile(table(), "APSaveProg", QStringLiteral("full.dat"));
-    const QByteArray saved = contentsOf(QStringLiteral("full.dat"));
+    const QByteArray saved = fileText(QStringLiteral("full.dat"));
     table().button("ProgClear")->click();
     callWithFile(table(), "APLoadProg", QStringLiteral("full.dat"));
     for (int k = 0; k < 200; ++k) {
         QCOMPARE(table().row(k), before[k]);
     }
     callWithFile(table(), "APSaveProg", QStringLiteral("full.dat"));
-    QCOMPARE(contentsOf(QStringLiteral("full.dat")), saved);
+    QCOMPARE(fileText(QStringLiteral("full.dat")), saved);
 }
 
 void TestProgramFiles::fileMissingLeavesTheTable()
@@ -150,32 +133,21 @@ void TestProgramFiles::unwritableFileSaysSo()
 
 void TestProgramFiles::unfinishedSaveKeepsTheOldProgram()
 {
-#ifdef Q_OS_UNIX
+    if (!FullDisk::isPossible()) {
+        QSKIP("needs a full disk");
+    }
     const QString fname = QStringLiteral("kept.dat");
-    put(fname, "the old program\n");
-
-    // As on a full disk: nothing can be written beyond the first bytes.
-    rlimit before{};
-    QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit tight = before;
-    tight.rlim_cur = 100;
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &tight), 0);
+    putFile(fname, "the old program\n");
     QStringList said;
     {
+        const FullDisk full(100);
         MessageCapture capture;
         callWithFile(table(), "APSaveProg", fname);
         said = capture.texts();
     }
-    setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, handler);
-
     QCOMPARE(said, QStringList(QStringLiteral("\"Can not open [\" \"kept.dat\" \"]\"")));
-    QCOMPARE(contentsOf(fname), QByteArray("the old program\n"));
+    QCOMPARE(fileText(fname), QByteArray("the old program\n"));
     QCOMPARE(QDir().entryList({QStringLiteral("kept*")}), QStringList(fname));
-#else
-    QSKIP("no way to limit the size of files");
-#endif
 }
 
 void TestProgramFiles::shortFileClearsTheOtherRows()
@@ -183,7 +155,7 @@ void TestProgramFiles::shortFileClearsTheOtherRows()
     for (int k = 0; k < 200; ++k) {
         table().enter(k, QStringLiteral("9"));
     }
-    put(QStringLiteral("short.dat"),
+    putFile(QStringLiteral("short.dat"),
         "5 1 2 3 4 5 6 7 8 9 1 0 0 0 0 0 1 2.5 A 4\n\nremark\n" + defaultLine(0));
     callWithFile(table(), "APLoadProg", QStringLiteral("short.dat"));
     QCOMPARE(table().time(0)->text(), QStringLiteral("2.5"));
@@ -202,7 +174,7 @@ void TestProgramFiles::longFileStopsAtTheLastRow()
     for (int k = 0; k < 300; ++k) {
         lines += "0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 " + QByteArray::number(k + 1) + " ---NoGroup--- 1\n";
     }
-    put(QStringLiteral("long.dat"), lines);
+    putFile(QStringLiteral("long.dat"), lines);
     callWithFile(table(), "APLoadProg", QStringLiteral("long.dat"));
     QCOMPARE(table().time(0)->text(), QStringLiteral("1"));
     QCOMPARE(table().time(199)->text(), QStringLiteral("200"));
@@ -211,7 +183,7 @@ void TestProgramFiles::longFileStopsAtTheLastRow()
 void TestProgramFiles::emptyFileClearsTheTable()
 {
     table().enter(0, QStringLiteral("33"));
-    put(QStringLiteral("empty.dat"), QByteArray());
+    putFile(QStringLiteral("empty.dat"), QByteArray());
     callWithFile(table(), "APLoadProg", QStringLiteral("empty.dat"));
     QCOMPARE(table().row(0), ProgramStep());
 }
@@ -221,7 +193,7 @@ void TestProgramFiles::loadingKeepsNumbersAndMarks()
     table().enter(0, QStringLiteral("33"));
     table().button("ProgRun")->click();
     table().tick();
-    put(QStringLiteral("other.dat"), defaultLine(7));
+    putFile(QStringLiteral("other.dat"), defaultLine(7));
     callWithFile(table(), "APLoadProg", QStringLiteral("other.dat"));
     QCOMPARE(table().marked(), QVector<int>({1}));
     QCOMPARE(table().stepLabel(0)->text(), QStringLiteral("1"));

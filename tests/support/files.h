@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <memory>
+
+/// Makes the file `name` hold `bytes`; ends the test program when that fails.
+void putFile(const QString& name, const QByteArray& bytes);
+
+/// What the file `name` holds, line ends of the platform made LF; "(no file)" when it cannot be read.
+QByteArray fileText(const QString& name);
+
+/// A full disk, as near as a test comes to it: while it lives, no file of this process may grow beyond some
+/// bytes. Only on Unix.
+class FullDisk
+{
+public:
+    /// False where a disk cannot be made full; skip the test then.
+    static bool isPossible();
+
+    explicit FullDisk(int bytes);
+    ~FullDisk();
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    struct Before;
+    std::unique_ptr<Before> before;
+};
