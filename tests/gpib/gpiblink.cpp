@@ -7,6 +7,7 @@
 #include "support/scriptedadapter.h"
 #include "support/testmain.h"
 
+#include <QHostInfo>
 #include <QTcpSocket>
 
 #include <memory>
@@ -105,8 +106,12 @@ void GpibLinkTest::withASocketItIsConnectedAtOnce()
 
 void GpibLinkTest::aHostNameIsLookedUp()
 {
+    const QHostAddress own(QHostAddress::LocalHost);
+    if (!QHostInfo::fromName(QStringLiteral("localhost")).addresses().contains(own)) {
+        QSKIP("this machine does not know its own name localhost");
+    }
     QTcpServer server;
-    QVERIFY(server.listen(QHostAddress::LocalHost));
+    QVERIFY(server.listen(own));
     GPIB gpib;
     gpib.connectAdapter(QStringLiteral("localhost"), server.serverPort());
     gpib.sndMsg("kept until the name is found");
