@@ -22,7 +22,11 @@ void ChartView::zoomX(bool closer)
 void ChartView::zoomY(bool closer, double fixed)
 {
     const double before = ySpan;
-    ySpan = std::max(zoomed(before, closer), shortestYSpan);
+    const double after = std::max(zoomed(before, closer), shortestYSpan);
+    if (!std::isfinite(after)) {
+        return; // no way back would lead from infinity
+    }
+    ySpan = after;
     const double growth = (ySpan - before) / before;
     const double shift = (fixed + yDragShift + yOffset) * growth;
     if (std::isfinite(shift)) {

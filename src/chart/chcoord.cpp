@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -21,19 +22,18 @@ double fitScale(const QRectF& measured, const QRectF& box)
     return scaleX > 1.0 && box.width() != 0.0 ? scaleX : 1.0;
 }
 
-// The whole point size for the text, 0 when it cannot be shown.
-int fittedSize(
+// The point size for the text: a whole number when it is fitted, 0 when it cannot be shown.
+double shownSize(
     QPainter& painter, const QRectF& box, int flags, ChCoord::FitMode mode, const QString& text, double size)
 {
     constexpr double largestSize = 10000.0;
 
-    double scale = 1.0;
-    if (mode == ChCoord::FitBox) {
-        const QRectF room(box.x(), box.y() + box.height(), 1000.0, 1000.0);
-        scale = fitScale(painter.boundingRect(room, flags, text), box);
+    if (mode == ChCoord::AsIs) {
+        return size;
     }
-    const double fitted = size / scale;
-    return fitted >= 1.0 ? static_cast<int>(std::min(fitted, largestSize)) : 0;
+    const QRectF room(box.x(), box.y() + box.height(), 1000.0, 1000.0);
+    const double fitted = size / fitScale(painter.boundingRect(room, flags, text), box);
+    return fitted >= 1.0 ? std::trunc(std::min(fitted, largestSize)) : 0.0;
 }
 
 } // namespace
@@ -120,11 +120,11 @@ void ChCoord::drawFitted(
     QPainter& painter, const QRectF& box, int flags, FitMode mode, const QString& text, QFont& font)
 {
     const double sizeBefore = font.pointSizeF();
-    const int size = fittedSize(painter, box, flags, mode, text, sizeBefore);
-    if (size <= 0) {
+    const double size = shownSize(painter, box, flags, mode, text, sizeBefore);
+    if (size <= 0.0) {
         return;
     }
-    font.setPointSize(size);
+    font.setPointSizeF(size);
     painter.setFont(font);
     painter.drawText(box, flags, text);
     font.setPointSizeF(sizeBefore);
@@ -135,11 +135,11 @@ QRectF ChCoord::measureFitted(
     QPainter& painter, const QRectF& box, int flags, FitMode mode, const QString& text, QFont& font)
 {
     const double sizeBefore = font.pointSizeF();
-    const int size = fittedSize(painter, box, flags, mode, text, sizeBefore);
-    if (size <= 0) {
+    const double size = shownSize(painter, box, flags, mode, text, sizeBefore);
+    if (size <= 0.0) {
         return {};
     }
-    font.setPointSize(size);
+    font.setPointSizeF(size);
     painter.setFont(font);
     const QRectF covered = painter.boundingRect(box, flags, text);
     font.setPointSizeF(sizeBefore);

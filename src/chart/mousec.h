@@ -30,7 +30,8 @@ public:
     Qt::MouseButton button() const { return lastButton; }
     Qt::KeyboardModifiers modifiers() const { return lastModifiers; }
 
-    /// Whether the last press was by `which` and the last event came with no keyboard modifier.
+    /// Whether the last press, release or double click was by `which` and the last event came with no
+    /// keyboard modifier.
     bool isPlain(Qt::MouseButton which) const
     {
         return lastButton == which && lastModifiers == Qt::NoModifier;

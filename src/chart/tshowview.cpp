@@ -70,14 +70,12 @@ void TShowView::mousePressEvent(QMouseEvent* ev)
 void TShowView::mouseMoveEvent(QMouseEvent* ev)
 {
     mouse.move(*ev);
-    if (!mouse.isPressed()) {
-        return;
-    }
-    if (mouse.isPlain(Qt::LeftButton)) {
+    if (mouse.isPressed() && mouse.isPlain(Qt::LeftButton)) {
         view.dragX(coord.dataX(mouse.current().x()) - coord.dataX(mouse.pressPosition().x()));
-    } else if (mouse.isPlain(Qt::RightButton)) {
+    } else if (mouse.isPressed() && mouse.isPlain(Qt::RightButton)) {
         view.dragY(coord.dataY(mouse.current().y()) - coord.dataY(mouse.pressPosition().y()));
     }
+    // Also when nothing moved: after a double click this shows the view it went back to.
     update();
 }
 
@@ -103,7 +101,7 @@ void TShowView::wheelEvent(QWheelEvent* ev)
 {
     // Some platforms turn the wheel sideways while Alt is held; no modifier changes what the wheel does here.
     const QPoint angle = ev->angleDelta();
-    const int delta = angle.y() != 0 ? angle.y() : angle.x();
+    const int delta = qAbs(angle.y()) >= qAbs(angle.x()) ? angle.y() : angle.x();
     const bool closer = delta * 0.125 / 15 > 0.0;
     if (!mouse.isPressed()) {
         view.zoomX(closer);

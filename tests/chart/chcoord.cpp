@@ -228,11 +228,11 @@ void ChCoordTest::textAsItIsKeepsItsSize()
     QImage image = whitePicture();
     QPainter painter(&image);
     QFont font;
-    font.setPointSize(11);
+    font.setPointSizeF(9.9);
     painter.setFont(font);
-    const QRectF natural = painter.boundingRect(QRectF(0, 0, 1000, 1000), 0, QStringLiteral("42"));
+    const QRectF natural = painter.boundingRect(QRectF(0, 0, 1000, 1000), 0, QStringLiteral("a longer text"));
     const QRectF covered = ChCoord::measureFitted(
-        painter, QRectF(50, 50, 300, 200), centred, ChCoord::AsIs, QStringLiteral("42"), font);
+        painter, QRectF(50, 50, 300, 200), centred, ChCoord::AsIs, QStringLiteral("a longer text"), font);
     QCOMPARE(covered.size(), natural.size());
 }
 

@@ -18,7 +18,7 @@ private slots:
     void aDragWithTheMiddleButtonMovesNothing();
     void aDoubleClickResetsWithoutARepaint();
     void everyOtherEventRepaintsOnce();
-    void movesWithoutAButtonDoNothing();
+    void aMoveAfterADoubleClickShowsTheFirstView();
     void draggingBeforeTheFirstPaintIsHarmless();
 };
 
@@ -166,13 +166,18 @@ void MouseTest::everyOtherEventRepaintsOnce()
     QCOMPARE(chart.paints.take(), 1);
 }
 
-void MouseTest::movesWithoutAButtonDoNothing()
+void MouseTest::aMoveAfterADoubleClickShowsTheFirstView()
 {
     ShownChart chart;
     QVERIFY(!chart.view.hasMouseTracking());
-    Hand::move(chart.view, QPointF(700, 300), Qt::NoButton);
+    Hand::notches(chart.view, 3);
+    chart.paints.take();
+    Hand::doubleClick(chart.view, QPointF(500, 200));
     QCOMPARE(chart.paints.take(), 0);
+    Hand::move(chart.view, QPointF(700, 300), Qt::LeftButton); // its second press still held
+    QCOMPARE(chart.paints.take(), 1);
     QCOMPARE(chart.state().xDragShift, 0.0);
+    QCOMPARE(chart.state().xSpan, 300.0);
 }
 
 void MouseTest::draggingBeforeTheFirstPaintIsHarmless()

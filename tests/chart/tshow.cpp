@@ -13,6 +13,8 @@
 #include <QLabel>
 #include <QWindow>
 
+#include <cmath>
+
 class TShowTest : public QObject
 {
     Q_OBJECT

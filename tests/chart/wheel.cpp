@@ -124,6 +124,9 @@ void WheelTest::aThousandNotchesAndATripleSpanStillPaint()
         }
         Hand::notches(chart.view, -9000); // to where the numbers end
         QVERIFY(!chart.view.grab().isNull());
+        const double spanFarOut = chart.state().ySpan;
+        Hand::notches(chart.view, 1);
+        QCOMPARE(chart.state().ySpan < spanFarOut, held == Qt::RightButton); // the wheel still works
         Hand::release(chart.view, QPointF(500, 200), Qt::RightButton);
     }
     Hand::doubleClick(chart.view, QPointF(500, 200));

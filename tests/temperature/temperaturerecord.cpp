@@ -1,8 +1,12 @@
 // The temperature record as a file on the disk.
 
+#include "app/mbemain.h"
+#include "chart/tshowview.h"
 #include "support/messagecapture.h"
 #include "support/stationfixture.h"
 #include "support/testmain.h"
+#include "support/ticks.h"
+#include "temperature/recordline.h"
 
 #include <QDir>
 #include <QFile>
@@ -21,6 +25,8 @@ private slots:
     void aSecondRunAppendsAndStartsAtZero();
     void whatStandsInTheFileStays();
     void aFileThatCannotBeOpenedIsPassedOver();
+    void theChartGetsWhatIsRecorded_data();
+    void theChartGetsWhatIsRecorded();
     void aSilentControllerStopsTheRecord();
     void switchedOffNothingIsRecorded();
 
@@ -123,6 +129,40 @@ void TemperatureRecordTest::aFileThatCannotBeOpenedIsPassedOver()
     QVERIFY(QDir().rmdir(name));
     QVERIFY(station->round());
     QCOMPARE(content(), atZero);
+}
+
+void TemperatureRecordTest::theChartGetsWhatIsRecorded_data()
+{
+    QTest::addColumn<bool>("fileIsInTheWay");
+    QTest::newRow("with a file") << false;
+    QTest::newRow("with a directory in the file's place") << true;
+}
+
+void TemperatureRecordTest::theChartGetsWhatIsRecorded()
+{
+    QFETCH(const bool, fileIsInTheWay);
+    if (fileIsInTheWay) {
+        QVERIFY(QDir().mkdir(QStringLiteral("TemperatureRec.dat")));
+    }
+    StationFixture::storeInUse({});
+    QVERIFY(station->open());
+    const auto* chart = station->window->findChild<TShowView*>(QStringLiteral("TSView"));
+    QVERIFY(chart != nullptr);
+    station->tick(emptyRound);
+    DrivenClock::advance(30000);
+    station->tick(emptyRound);
+
+    QCOMPARE(chart->channels().size(), 9);
+    for (int n = 0; n < 9; ++n) {
+        const PointBuffer& points = chart->channels().at(n);
+        QCOMPARE(points.size(), 2);
+        QCOMPARE(points.at(0).sec, 0.0);
+        QCOMPARE(points.at(0).degC, 500.0 - 30 * n);
+        QCOMPARE(points.at(1).sec, 30.0);
+        QCOMPARE(points.at(1).degC, Record::value(n, 30.0));
+    }
+    QCOMPARE(StationFixture::records(), fileIsInTheWay ? 0 : 2);
+    QDir().rmdir(QStringLiteral("TemperatureRec.dat"));
 }
 
 void TemperatureRecordTest::aSilentControllerStopsTheRecord()
