@@ -95,7 +95,8 @@ void rest(const QWidget& widget)
 
 void type(const QString& text)
 {
-    xdotool({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("2"), text});
+    xdotool(
+        {QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("2"), QStringLiteral("--"), text});
 }
 
 void key(const QString& name)
