@@ -6,6 +6,7 @@
 #include "program/aline.h"
 #include "program/tablerows.h"
 
+#include <QLabel>
 #include <QTimer>
 
 namespace {
@@ -36,6 +37,21 @@ private:
     };
     QVector<Row> rows;
 };
+
+// A label that changes ten times a second must not change its size with each text: the tab around it would be
+// laid out and painted anew, the whole table with it. It keeps a size and only grows, for a text that has no
+// room.
+void showFigure(QLabel& label, const QString& text)
+{
+    if (label.text() == text) {
+        return;
+    }
+    label.setText(text);
+    const QSize needed = label.sizeHint();
+    if (label.maximumWidth() < needed.width() || label.minimumWidth() != label.maximumWidth()) {
+        label.setFixedSize(needed);
+    }
+}
 
 QString shownSeconds(double seconds)
 {
@@ -93,8 +109,8 @@ void MBEMain::APOneTick()
     }
     if (stepPhase == StepPhase::Playing) {
         const qint64 elapsedMs = now - stepStartMs;
-        DispTime01->setText(shownSecondsOf(elapsedMs));
-        DispTTime01->setText(shownSecondsOf(now - progStartMs));
+        showFigure(*DispTime01, shownSecondsOf(elapsedMs));
+        showFigure(*DispTTime01, shownSecondsOf(now - progStartMs));
         if (static_cast<double>(elapsedMs) > 1000.0 * stepTime) {
             endStep();
         }
@@ -135,8 +151,8 @@ void MBEMain::startStep(qint64 nowMs)
     }
     ActionShutter();
 
-    DispTime01->setText(QStringLiteral("0"));
-    DispTime02->setText(shownSeconds(stepTime));
+    showFigure(*DispTime01, QStringLiteral("0"));
+    showFigure(*DispTime02, shownSeconds(stepTime));
     stepPhase = StepPhase::Playing;
     stepStartMs = nowMs;
 }
@@ -158,16 +174,16 @@ void MBEMain::startRamps(const aLine& line)
 
 void MBEMain::APCheck()
 {
-    DispTTime02->setText(shownSeconds(totalTimeSec(RowsRead(TableRows(progLines)))));
+    showFigure(*DispTTime02, shownSeconds(totalTimeSec(RowsRead(TableRows(progLines)))));
 }
 
 void MBEMain::showGroupCount()
 {
     if (progWalk.groupTimes < 1) {
-        DispCount01->setText(QStringLiteral("----"));
-        DispCount02->setText(QStringLiteral("----"));
+        showFigure(*DispCount01, QStringLiteral("----"));
+        showFigure(*DispCount02, QStringLiteral("----"));
         return;
     }
-    DispCount01->setText(QString::asprintf("%4d", progWalk.groupCount + 1));
-    DispCount02->setText(QString::asprintf("%4d", progWalk.groupTimes));
+    showFigure(*DispCount01, QString::asprintf("%4d", progWalk.groupCount + 1));
+    showFigure(*DispCount02, QString::asprintf("%4d", progWalk.groupTimes));
 }

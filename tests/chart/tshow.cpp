@@ -3,8 +3,8 @@
 #include "chart/tshow.h"
 #include "chart/lineselect.h"
 #include "chart/support/hand.h"
-#include "chart/support/paintcount.h"
 #include "support/messagecapture.h"
+#include "support/paintcount.h"
 #include "support/testmain.h"
 #include "support/ticks.h"
 

@@ -1,5 +1,6 @@
 #include "program/programwindow.h"
 
+#include "support/paintcount.h"
 #include "support/testmain.h"
 
 namespace {
@@ -22,6 +23,7 @@ private slots:
     void startShowsRunningAndStartsOnTheFirstTick();
     void stepEndsOnceItsTimeHasPassed();
     void labelsShowTimesWithOneDecimal();
+    void runningTimesDoNotRepaintTheTable();
     void holdPointWaitsForTheOperator();
     void pauseCountsTowardsTheStep();
     void pauseShowsAndDoesNothingWhenIdle();
@@ -105,6 +107,29 @@ void TestPlayer::labelsShowTimesWithOneDecimal()
     table().tick(100000);
     QCOMPARE(label("DispTime01"), QStringLiteral(" 100.0"));
     QCOMPARE(label("DispTTime01"), QStringLiteral(" 121.3"));
+}
+
+void TestPlayer::runningTimesDoNotRepaintTheTable()
+{
+    table().show();
+    table().enter(0, QStringLiteral("60"));
+    run();
+    table().tick(10);
+    const auto tickAndPaint = [this](int times) {
+        for (int i = 0; i < times; ++i) {
+            table().tick(100);
+            QCoreApplication::processEvents();
+        }
+    };
+    table().tick(10000);
+    tickAndPaint(10); // the labels have taken their room, and that is painted
+    PaintCount tablePaints(*table().time(0));
+    PaintCount labelPaints(*table().window().findChild<QLabel*>(QStringLiteral("DispTime01")));
+    tablePaints.take();
+    labelPaints.take();
+    tickAndPaint(10);
+    QVERIFY(labelPaints.take() >= 10);
+    QCOMPARE(tablePaints.take(), 0);
 }
 
 void TestPlayer::holdPointWaitsForTheOperator()

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "chart/support/paintcount.h"
 #include "chart/tshowview.h"
+#include "support/paintcount.h"
 #include "support/ticks.h"
 
 /// The chart in a real window, 10000 s after the start, painted once. The plot is 870 pixels wide (300 s)
