@@ -1,27 +1,17 @@
 #include "chart/linestrokes.h"
 
-#include "chart/columnrows.h"
 #include "chart/pixelcolumns.h"
 #include "chart/repeatedpixels.h"
-#include "chart/rimcolumns.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
 namespace {
 
-// Far outside of every widget, near enough for the arithmetic of rectangles.
-constexpr int outOfSight = 1 << 26;
-
 bool fitsInt(double whole)
 {
     return std::abs(whole) <= std::numeric_limits<int>::max();
-}
-
-QLine verticalLine(double x, double top, double bottom)
-{
-    const int column = static_cast<int>(x);
-    return {column, pixelWithin(top, outOfSight), column, pixelWithin(bottom, outOfSight)};
 }
 
 // Clips the parameter range of start + t * delta to [-limit, limit]; false when nothing is left.
@@ -37,86 +27,105 @@ bool clip(double start, double delta, double limit, double& from, double& to)
     return from <= to;
 }
 
-// The vertical lines of the columns `from` to `to`, which share the rows `core`: the shared part between the
-// middle lines of the outer columns is one rectangle, and lines do its rim, where the pen's width counts.
-void addBand(const QVector<PixelColumn>& columns, int from, int to, const Rows& core, LineStrokes& strokes)
+class Strokes
 {
-    const QLine left = verticalLine(columns.at(from).x, core.top, core.bottom);
-    const QLine right = verticalLine(columns.at(to).x, core.top, core.bottom);
-    strokes.fills.append(QRect(left.x1(), left.y1(), right.x1() - left.x1(), left.y2() - left.y1()));
-    for (int i = from; i <= to; ++i) {
-        const PixelColumn& column = columns.at(i);
-        if (i == from || i == to) {
-            strokes.lines.append(verticalLine(column.x, column.top, column.bottom));
-            continue;
-        }
-        strokes.lines.append(verticalLine(column.x, column.top, core.top + 1.0));
-        strokes.lines.append(verticalLine(column.x, core.bottom - 1.0, column.bottom));
+public:
+    Strokes(const PointBuffer& points, const PlotMapping& map, const PenShape& linePen)
+        : buffer(points)
+        , mapping(map)
+        , pen(linePen)
+        , sight(linePen.area(map.left - 1.0, map.top - 1.0, map.right, map.bottom))
+        , drawn(sight)
+    {
     }
-}
 
-// The segments within columns: together they cover each column from its top to its bottom.
-void addVerticals(const QVector<PixelColumn>& columns, LineStrokes& strokes)
-{
-    constexpr int widestBand = 32;
-    constexpr int narrowestBand = 3;
-    constexpr double lowestBand = 8.0; // rows
-
-    int from = 0;
-    while (from < columns.size()) {
-        const PixelColumn& column = columns.at(from);
-        if (!column.merged || !fitsInt(column.x)) {
-            ++from;
-            continue;
+    LineStrokes of(int first, int last)
+    {
+        QVector<PixelColumn> columns = pixelColumns(buffer, mapping, first, last);
+        for (PixelColumn& column : columns) {
+            addColumn(column);
         }
-        Rows core = commonRows(columns, from, from);
-        int to = from;
-        while (to + 1 < columns.size() && to - from < widestBand) {
-            const Rows own = commonRows(columns, to, to + 1);
-            const Rows shared{std::max(core.top, own.top), std::min(core.bottom, own.bottom)};
-            if (shared.count() < lowestBand || !fitsInt(columns.at(to + 1).x)) {
-                break;
-            }
-            core = shared;
-            ++to;
+        if (pen.hasWideDots()) {
+            addRepeatedPixels(buffer, mapping, columns, pen, drawn);
         }
-        if (to - from + 1 < narrowestBand) {
-            strokes.lines.append(verticalLine(column.x, column.top, column.bottom));
-            ++from;
-            continue;
+        for (int i = 1; i < columns.size(); ++i) {
+            addConnection(columns.at(i - 1), columns.at(i));
         }
-        addBand(columns, from, to, core, strokes);
-        from = to + 1;
+        return {lines, drawn.strokes()};
     }
-}
 
-// Whether the segment from column `index` - 1 to `index` adds no pixel to the vertical lines around it.
-bool isCovered(const QVector<PixelColumn>& columns, int index, const PenShape& pen)
-{
-    const double from = columns.at(index - 1).exit;
-    const double to = columns.at(index).entry;
-    const double top = std::min(from, to);
-    const double bottom = std::max(from, to);
-    if (pen.isThin()) {
-        return commonRows(columns, index - 1, index).contains(top, bottom);
+private:
+    // The segments within a column: together they cover it from its top to its bottom.
+    void addColumn(PixelColumn& column)
+    {
+        if (!column.merged) {
+            return;
+        }
+        if (!isCertain(column)) {
+            column.merged = false;
+            addSegments(column);
+            return;
+        }
+        const bool isDot = column.top == column.bottom;
+        drawn.add(
+            isDot ? pen.dotColumns(column.x) : pen.columns(column.x), pen.rows(column.top, column.bottom));
     }
-    // The corners of a slanting wide stroke reach a little over its ends, to the sides and beyond.
-    return commonRows(columns, index - 2, index + 1).contains(top - 1.0, bottom + 1.0);
-}
 
-// The segments that lead from one column to the next.
-void addConnections(const QVector<PixelColumn>& columns, const PenShape& pen, LineStrokes& strokes)
-{
-    for (int i = 1; i < columns.size(); ++i) {
-        const PixelColumn& before = columns.at(i - 1);
-        const PixelColumn& here = columns.at(i);
+    bool isCertain(const PixelColumn& column) const
+    {
+        const PixelSpan rows{sight.top(), sight.bottom()};
+        return pen.isCertainColumn(column.x, {sight.left(), sight.right()})
+            && pen.isCertainRow(column.top, rows) && pen.isCertainRow(column.bottom, rows);
+    }
+
+    void addSegments(const PixelColumn& column)
+    {
+        const PixelMap pixels(mapping);
+        double before = column.entry;
+        for (int i = column.first + 1; i <= column.last; ++i) {
+            const double here = wholePixel(pixels.y(buffer.at(i).degC));
+            addSegment(column.x, before, column.x, here);
+            before = here;
+        }
+    }
+
+    // The segment that leads from one column to the next.
+    void addConnection(const PixelColumn& before, const PixelColumn& here)
+    {
+        if (!before.drawable || !here.drawable) {
+            return;
+        }
+        if (!isCovered(before, here)) {
+            addSegment(before.x, before.exit, here.x, here.entry);
+        }
+    }
+
+    // Whether that segment adds no pixel to the upright lines around it.
+    bool isCovered(const PixelColumn& before, const PixelColumn& here) const
+    {
+        const double top = std::min(before.exit, here.entry);
+        const double bottom = std::max(before.exit, here.entry);
+        const bool isWithinBoth
+            = std::max(before.top, here.top) <= top && bottom <= std::min(before.bottom, here.bottom);
+        return before.merged && here.merged && isWithinBoth && std::abs(here.x - before.x) <= 1.0
+            && drawn.covers(pen.reachedColumns(before.x, here.x), pen.reachedRows(top, bottom));
+    }
+
+    void addSegment(double x1, double y1, double x2, double y2)
+    {
         QLine line;
-        if (before.drawable && here.drawable && !isCovered(columns, i, pen)
-            && segmentLine(before.x, before.exit, here.x, here.entry, line)) {
-            strokes.lines.append(line);
+        if (segmentLine(x1, y1, x2, y2, line)) {
+            lines.append(line);
         }
     }
-}
+
+    const PointBuffer& buffer;
+    const PlotMapping& mapping;
+    const PenShape& pen;
+    QRect sight; // the plot with a pixel more on the left and above, as it is clipped
+    DeviceColumns drawn;
+    QVector<QLine> lines;
+};
 
 } // namespace
 
@@ -142,11 +151,5 @@ bool segmentLine(double x1, double y1, double x2, double y2, QLine& line)
 LineStrokes lineStrokes(
     const PointBuffer& buffer, const PlotMapping& mapping, int first, int last, const PenShape& pen)
 {
-    QVector<PixelColumn> columns = pixelColumns(buffer, mapping, first, last);
-    LineStrokes strokes;
-    takeRimColumns(buffer, mapping, pen, columns, strokes);
-    addVerticals(columns, strokes);
-    addConnections(columns, pen, strokes);
-    addRepeatedPixels(buffer, mapping, columns, pen, strokes);
-    return strokes;
+    return Strokes(buffer, mapping, pen).of(first, last);
 }

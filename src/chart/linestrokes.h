@@ -1,29 +1,18 @@
 #pragma once
 
+#include "chart/devicecolumns.h"
+#include "chart/penshape.h"
 #include "chart/plotmapping.h"
 #include "chart/pointbuffer.h"
 
 #include <QLine>
-#include <QRect>
 #include <QVector>
 
-/// The pen that strokes are made for: solid, opaque, square caps, not smoothed.
-struct PenShape
-{
-    int width = 1; ///< pixels of the widget
-    double scale = 1.0; ///< device pixels a widget pixel
-    double originX = 0.0; ///< where the widget stands on the device, in device pixels
-    double originY = 0.0;
-
-    /// One device pixel wide: the toolkit has exact integer arithmetic for such lines.
-    bool isThin() const { return width == 1 && scale == 1.0; }
-};
-
-/// What to draw for one channel: lines with the pen, rectangles filled with its colour.
+/// What to draw for one channel.
 struct LineStrokes
 {
-    QVector<QLine> lines;
-    QVector<QRect> fills;
+    QVector<QLine> lines; ///< with the pen, in pixels of the widget
+    DeviceStrokes uprights; ///< in pixels of the device
 };
 
 /// The strokes that give the very pixels of drawing the segment from each point `first` to `last` - 1 to the

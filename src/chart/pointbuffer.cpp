@@ -6,6 +6,9 @@
 
 namespace {
 
+constexpr double infinite = std::numeric_limits<double>::infinity();
+constexpr ValueRange nothing{infinite, -infinite};
+
 bool finite(const TPoint& point)
 {
     return std::isfinite(point.sec) && std::isfinite(point.degC);
@@ -23,14 +26,10 @@ void widen(ValueRange& range, const ValueRange& other)
     range.highest = std::max(range.highest, other.highest);
 }
 
-// Adds the point that is number `count` of its piece to the block it belongs to.
-void widenLast(QVector<ValueRange>& blocks, int count, int blockSize, double value)
+// The lowest value that a pair does not exceed and the highest that it does not fall below.
+ValueRange pairOf(double a, double b)
 {
-    if (count % blockSize == 0) {
-        blocks.append({value, value});
-    } else {
-        widen(blocks.last(), value);
-    }
+    return {std::max(a, b), std::min(a, b)};
 }
 
 } // namespace
@@ -72,8 +71,17 @@ void PointBuffer::store(const TPoint& point)
         pieces.append(piece);
     }
     Piece& piece = pieces.last();
-    widenLast(piece.blocks, piece.points.size(), blockSize, point.degC);
-    widenLast(piece.wideBlocks, piece.points.size(), wideBlockSize, point.degC);
+    const ValueRange pair = count > 0 ? pairOf(at(count - 1).degC, point.degC) : nothing;
+    if (piece.points.size() % blockSize == 0) {
+        piece.blocks.append({point.degC, point.degC});
+    }
+    if (piece.points.size() % wideBlockSize == 0) {
+        piece.wideBlocks.append({{point.degC, point.degC}, pair});
+    }
+    widen(piece.blocks.last(), point.degC);
+    WideBlock& wide = piece.wideBlocks.last();
+    widen(wide.range, point.degC);
+    widen(wide.pairs, pair);
     piece.points.append(point);
     ++count;
 }
@@ -145,14 +153,14 @@ int PointBuffer::lastIndex(int first, double sec) const
 
 ValueRange PointBuffer::range(int first, int last) const
 {
-    ValueRange found{std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity()};
+    ValueRange found = nothing;
     int place = dropped + first;
     const int end = dropped + last + 1;
     while (place < end) {
         const Piece& piece = pieces.at(place / pieceSize);
         const int inPiece = place % pieceSize;
         if (inPiece % wideBlockSize == 0 && end - place >= wideBlockSize) {
-            widen(found, piece.wideBlocks.at(inPiece / wideBlockSize));
+            widen(found, piece.wideBlocks.at(inPiece / wideBlockSize).range);
             place += wideBlockSize;
         } else if (inPiece % blockSize == 0 && end - place >= blockSize) {
             widen(found, piece.blocks.at(inPiece / blockSize));
@@ -163,6 +171,24 @@ ValueRange PointBuffer::range(int first, int last) const
         }
     }
     return found;
+}
+
+PointBuffer::Candidates PointBuffer::pairsOutside(int from, int last, const ValueRange& inside) const
+{
+    int point = from;
+    while (point <= last) {
+        const int place = dropped + point;
+        const ValueRange& pairs
+            = pieces.at(place / pieceSize).wideBlocks.at(place % pieceSize / wideBlockSize).pairs;
+        const int end = std::min(point - place % wideBlockSize + wideBlockSize, last + 1);
+        // So that NaN counts as outside.
+        const bool isInside = pairs.lowest >= inside.lowest && pairs.highest <= inside.highest;
+        if (!isInside) {
+            return {point, end};
+        }
+        point = end;
+    }
+    return {last + 1, last + 1};
 }
 
 int PointBuffer::stretchEnd(int index) const

@@ -56,24 +56,16 @@ public:
     /// The extremes of the points `first` to `last`, both included, all of which are finite.
     ValueRange range(int first, int last) const;
 
-    /// A short run of points whose extremes are known: the rest of the block that holds `first`, or the
-    /// points up to `last` when it ends before.
-    struct Block
+    /// Looks for neighbours that are both above `inside` or both below it, a block at a time: the first point
+    /// from `from` to `last` whose block holds such a pair, and one past the last point of that block (at
+    /// most `last`) to look at. Empty at `last` + 1 when there is none. A pair belongs to its second point's
+    /// block.
+    struct Candidates
     {
-        int end; ///< one past the last point
-        ValueRange range;
+        int from;
+        int end;
     };
-    Block blockFrom(int first, int last) const
-    {
-        const int place = dropped + first;
-        const int inBlock = place % blockSize;
-        const int end = first - inBlock + blockSize;
-        if (inBlock == 0 && end <= last + 1) {
-            return {end, pieces.at(place / pieceSize).blocks.at(place % pieceSize / blockSize)};
-        }
-        const int shortEnd = end <= last ? end : last + 1;
-        return {shortEnd, range(first, shortEnd - 1)};
-    }
+    Candidates pairsOutside(int from, int last, const ValueRange& inside) const;
 
     /// One past the stretch that holds `index`. Within a stretch the seconds never step back and everything
     /// is finite; a point that is not finite is a stretch of its own.
@@ -88,11 +80,18 @@ private:
     static constexpr int wideBlockSize = 64;
     static constexpr int pieceSize = 1024;
 
+    struct WideBlock
+    {
+        ValueRange range;
+        ValueRange pairs; // the lowest value that some two neighbours both do not exceed; the highest that
+                          // some two both do not fall below
+    };
+
     struct Piece
     {
         QVector<TPoint> points;
         QVector<ValueRange> blocks;
-        QVector<ValueRange> wideBlocks;
+        QVector<WideBlock> wideBlocks;
     };
 
     void store(const TPoint& point);

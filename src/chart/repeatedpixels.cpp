@@ -1,8 +1,7 @@
 #include "chart/repeatedpixels.h"
 
-#include "chart/columnrows.h"
-
-#include <cmath>
+#include <algorithm>
+#include <limits>
 #include <vector>
 
 namespace {
@@ -10,108 +9,123 @@ namespace {
 class DotFinder
 {
 public:
-    DotFinder(const PointBuffer& points, const PlotMapping& map, const QVector<PixelColumn>& all)
+    DotFinder(
+        const PointBuffer& points, const PlotMapping& map, const PenShape& linePen, DeviceColumns& lines)
         : buffer(points)
         , mapping(map)
         , pixels(map)
-        , columns(all)
-        , visible{std::trunc(map.top) - margin, std::trunc(map.bottom) + margin}
+        , pen(linePen)
+        , drawn(lines)
+        , firstRow(wholePixel(map.top) - margin)
+        , lastRow(wholePixel(map.bottom) + margin)
+        , seenIn(static_cast<std::size_t>(std::max(0.0, lastRow - firstRow + 1.0)), nullptr)
     {
-        seenIn.assign(static_cast<std::size_t>(std::max(0.0, visible.count())), -1);
     }
 
-    // Appends the dots of column `index` outside of the rows `hidden`.
-    void find(int index, const Rows& hidden, QVector<QLine>& dots)
+    void add(const PixelColumn& of)
     {
-        const PixelColumn& column = columns.at(index);
-        // Values that are in the hidden rows for certain.
-        const ValueRange hiddenValues{mapping.dataY(hidden.bottom), mapping.dataY(hidden.top + 0.5)};
-        int point = column.first;
-        while (point < column.last) {
-            const PointBuffer::Block block = buffer.blockFrom(point, column.last);
-            const bool isHidden = block.range.lowest >= hiddenValues.lowest
-                && block.range.highest <= hiddenValues.highest && hidden.count() > 1.0;
-            if (!isHidden) {
-                findInBlock(index, point, block, hidden, dots);
-            }
-            point = block.end;
+        column = &of;
+        dot = pen.dotColumns(of.x);
+        hidden = hiddenRows();
+        if (hidden.first <= of.top && of.bottom <= hidden.last) {
+            return;
+        }
+        // Values that are in the hidden rows for certain; none when there are not two such rows.
+        constexpr double infinite = std::numeric_limits<double>::infinity();
+        inside = hidden.first < hidden.last
+            ? ValueRange{mapping.dataY(hidden.last), mapping.dataY(hidden.first + 0.5)}
+            : ValueRange{infinite, -infinite};
+        openRows = openRowsOf(of);
+        int point = of.first + 1;
+        while (point <= of.last && openRows > 0.0) {
+            const PointBuffer::Candidates candidates = buffer.pairsOutside(point, of.last, inside);
+            addAmong(candidates);
+            point = candidates.end;
         }
     }
 
 private:
-    static constexpr int margin = 16;
+    static constexpr double margin = 16.0; // rows; more than any pen's width
 
     double row(double degC) const { return wholePixel(pixels.y(degC)); }
 
-    void findInBlock(
-        int index, int point, const PointBuffer::Block& block, const Rows& hidden, QVector<QLine>& dots)
+    // The widget's rows in which a dot of the column adds nothing to what is drawn beside its line.
+    PixelSpan hiddenRows() const
     {
-        const double top = row(block.range.highest);
-        const double bottom = row(block.range.lowest);
-        if (top == bottom && block.end - point > 1) {
-            mark(index, top, hidden, dots);
-            return;
-        }
-        const TPoint* points = &buffer.at(point);
-        double before = row(points[0].degC);
-        for (int i = 1; i < block.end - point; ++i) {
-            const double here = row(points[i].degC);
+        const PixelSpan line = pen.columns(column->x);
+        PixelSpan rows = drawn.sharedRows({dot.first, line.first - 1});
+        const PixelSpan right = drawn.sharedRows({line.last + 1, dot.last});
+        rows = {std::max(rows.first, right.first), std::min(rows.last, right.last)};
+        return rows.isEmpty() ? rows : pen.rowsWithin(rows);
+    }
+
+    bool isOutside(double degC) const { return degC < inside.lowest || degC > inside.highest; }
+
+    // Rows in sight that are not hidden.
+    double openRowsOf(const PixelColumn& of) const
+    {
+        const double top = std::max(of.top, firstRow);
+        const double bottom = std::min(of.bottom, lastRow);
+        const double hiddenCount
+            = std::min<double>(bottom, hidden.last) - std::max<double>(top, hidden.first) + 1.0;
+        return bottom - top + 1.0 - std::max(0.0, hiddenCount);
+    }
+
+    void addAmong(const PointBuffer::Candidates& candidates)
+    {
+        constexpr double none = std::numeric_limits<double>::quiet_NaN();
+        const TPoint* point = &buffer.at(candidates.from - 1);
+        double before = isOutside(point->degC) ? row(point->degC) : none;
+        point = &buffer.at(candidates.from);
+        const TPoint* const end = point + (candidates.end - candidates.from);
+        for (; point != end; ++point) {
+            const double here = isOutside(point->degC) ? row(point->degC) : none;
             if (here == before) {
-                mark(index, here, hidden, dots);
+                addDot(here);
             }
             before = here;
         }
-        // On to the next block's first point; for the other blocks that pair adds no row.
-        if (block.end <= columns.at(index).last && row(buffer.at(block.end).degC) == before) {
-            mark(index, before, hidden, dots);
-        }
     }
 
-    void mark(int index, double y, const Rows& hidden, QVector<QLine>& dots)
+    void addDot(double y)
     {
-        if (!visible.contains(y, y) || hidden.contains(y, y)) {
+        const bool isHidden = hidden.first <= y && y <= hidden.last;
+        if (isHidden || y < firstRow || y > lastRow) {
             return;
         }
-        int& seen = seenIn[static_cast<std::size_t>(y - visible.top)];
-        if (seen == index) {
-            return;
+        const PixelColumn*& seen = seenIn[static_cast<std::size_t>(y - firstRow)];
+        if (seen != column) {
+            seen = column;
+            openRows -= 1.0;
+            drawn.add(dot, pen.rows(y, y));
         }
-        seen = index;
-        const int x = pixelOf(columns.at(index).x);
-        const int row = static_cast<int>(y);
-        dots.append(QLine(x, row, x, row));
     }
 
     const PointBuffer& buffer;
     const PlotMapping& mapping;
     const PixelMap pixels;
-    const QVector<PixelColumn>& columns;
-    Rows visible;
-    std::vector<int> seenIn; // for each visible row, the last column with a dot in it
+    const PenShape& pen;
+    DeviceColumns& drawn;
+    double firstRow; // the rows in sight
+    double lastRow;
+    std::vector<const PixelColumn*> seenIn; // for each row in sight, the last column with a dot in it
+    const PixelColumn* column = nullptr;
+    PixelSpan dot{0, -1};
+    PixelSpan hidden{0, -1};
+    ValueRange inside{0.0, 0.0}; // values in the hidden rows
+    double openRows = 0.0; // in which a dot would show and has not been found yet
 };
 
 } // namespace
 
 void addRepeatedPixels(const PointBuffer& buffer, const PlotMapping& mapping,
-    const QVector<PixelColumn>& columns, const PenShape& pen, LineStrokes& strokes)
+    const QVector<PixelColumn>& columns, const PenShape& pen, DeviceColumns& drawn)
 {
-    if (pen.scale <= 1.0) {
-        return;
-    }
-    // How many columns to either side a dot reaches beyond the line.
-    const int reach = static_cast<int>(std::ceil(pen.width * (pen.scale - 1.0) / 2.0));
-    DotFinder finder(buffer, mapping, columns);
-    for (int i = 0; i < columns.size(); ++i) {
-        const PixelColumn& column = columns.at(i);
-        const bool isDotItself = column.merged && column.top == column.bottom;
-        if (!column.hasSegment() || isDotItself) {
-            continue;
-        }
-        Rows hidden = commonRows(columns, i - reach, i + reach);
-        hidden.top += 1.0;
-        hidden.bottom -= 1.0;
-        if (!hidden.contains(column.top, column.bottom)) {
-            finder.find(i, hidden, strokes.lines);
+    DotFinder finder(buffer, mapping, pen, drawn);
+    for (const PixelColumn& column : columns) {
+        const bool isDotItself = column.top == column.bottom;
+        if (column.merged && !isDotItself && !pen.columns(column.x).contains(pen.dotColumns(column.x))) {
+            finder.add(column);
         }
     }
 }

@@ -132,15 +132,19 @@ void TShowView::paintLines(QPainter& painter) const
         if (!isShown(channel) || points.size() < 2) {
             continue;
         }
-        const PenShape pen{channel == selected ? 3 : 1, device.m11(), device.dx(), device.dy()};
+        const PenShape pen(channel == selected ? 3 : 1, device.m11(), device.dx(), device.dy());
         const int first = points.firstIndex(mapping.xMin);
         const int last = points.lastIndex(first, mapping.xMax);
         const LineStrokes strokes = lineStrokes(points, mapping, first, last, pen);
         const QColor color = colorOf(channel);
-        painter.setPen(QPen(color, pen.width));
+        painter.setPen(QPen(color, pen.width()));
         painter.drawLines(strokes.lines);
-        for (const QRect& rect : strokes.fills) {
+        painter.setWorldTransform(device.inverted());
+        painter.setPen(QPen(color, 1));
+        painter.drawLines(strokes.uprights.lines);
+        for (const QRect& rect : strokes.uprights.fills) {
             painter.fillRect(rect, color);
         }
+        painter.resetTransform();
     }
 }

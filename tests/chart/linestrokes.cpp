@@ -106,9 +106,17 @@ void LineStrokesTest::strokesGrowWithColumnsAndNotWithPoints()
             buffer.append({300.0 * i / count, 100.0 + random() % 800});
         }
         for (const int width : {1, 3}) {
-            const LineStrokes strokes = lineStrokes(buffer, mapping(), 0, count - 1, {width, 1.0});
-            QVERIFY2(strokes.lines.size() + strokes.fills.size() < 5 * 871,
-                qPrintable(QString::number(strokes.lines.size())));
+            for (const double scale : {1.0, 1.25, 1.5, 2.0}) {
+                // In sight, and with Y so near that every column leaves the plot.
+                for (const double ySpan : {1000.0, 100.0}) {
+                    const PlotMapping map = mapping(0.0, 300.0, 500.0 - ySpan / 2, 500.0 + ySpan / 2);
+                    const LineStrokes strokes
+                        = lineStrokes(buffer, map, 0, count - 1, PenShape(width, scale));
+                    const int made = strokes.lines.size() + strokes.uprights.lines.size()
+                        + strokes.uprights.fills.size();
+                    QVERIFY2(made < 5 * 871 * scale, qPrintable(QString::number(made)));
+                }
+            }
         }
     }
 }
@@ -125,9 +133,9 @@ void LineStrokesTest::nothingIsDrawnFromOrToWhatIsNotFinite()
         buffer.append(odd);
         buffer.append({200.0, 700.0});
         buffer.append({290.0, 700.0});
-        const LineStrokes strokes = lineStrokes(buffer, mapping(), 0, 4, {1, 1.0});
+        const LineStrokes strokes = lineStrokes(buffer, mapping(), 0, 4, PenShape());
         QCOMPARE(strokes.lines, (QVector<QLine>{QLine(129, 467, 390, 467), QLine(680, 174, 941, 174)}));
-        QCOMPARE(strokes.fills.size(), 0);
+        QCOMPARE(strokes.uprights.lines.size() + strokes.uprights.fills.size(), 0);
     }
 }
 
@@ -168,7 +176,8 @@ void LineStrokesTest::valuesAtTheEndsOfAllNumbersAreDrawnSomewhere()
     buffer.append({huge, huge});
     for (const double scale : {1.0, 1.25, 2.0}) {
         for (const int width : {1, 3}) {
-            const LineStrokes strokes = lineStrokes(buffer, mapping(), 0, buffer.size() - 1, {width, scale});
+            const LineStrokes strokes
+                = lineStrokes(buffer, mapping(), 0, buffer.size() - 1, PenShape(width, scale));
             QVERIFY(!strokes.lines.isEmpty());
         }
     }
@@ -177,7 +186,7 @@ void LineStrokesTest::valuesAtTheEndsOfAllNumbersAreDrawnSomewhere()
     for (int i = 0; i < 400; ++i) {
         jagged.append({1.0 * i, i % 2 == 0 ? 1e9 : -1e9});
     }
-    const LineStrokes strokes = lineStrokes(jagged, mapping(0.0, 300.0, 0.0, 1.0), 0, 399, {1, 1.0});
+    const LineStrokes strokes = lineStrokes(jagged, mapping(0.0, 300.0, 0.0, 1.0), 0, 399, PenShape());
     QVERIFY(strokes.lines.size() >= 300);
 }
 

@@ -10,11 +10,15 @@ class PictureTest : public QObject
     Q_OBJECT
 
 private slots:
+    void theScaleAskedForIsInEffect();
     void everyKindAtEverySizeAndView_data();
     void everyKindAtEverySizeAndView();
     void pointsThatShareThePicturesEnds();
     void oneAndTwoPoints();
     void manyPointsInAColumn();
+    void denseHistoriesOverTheEdges_data();
+    void denseHistoriesOverTheEdges();
+    void aPartOfThePicture();
     void hiddenSelectedAndFourteenthChannel();
     void inAWindowAwayFromItsOrigin();
 };
@@ -65,6 +69,15 @@ void make(TShowView& chart, const Gesture& gesture)
 }
 
 } // namespace
+
+void PictureTest::theScaleAskedForIsInEffect()
+{
+    const double asked = qEnvironmentVariable("QT_SCALE_FACTOR", QStringLiteral("1")).toDouble();
+    PicturePair pair(100.0);
+    pair.resize(QSize(200, 100));
+    QCOMPARE(pair.chart.devicePixelRatioF(), asked);
+    QCOMPARE(pair.chartPicture().width(), qRound(200 * asked));
+}
 
 void PictureTest::everyKindAtEverySizeAndView_data()
 {
@@ -127,6 +140,49 @@ void PictureTest::manyPointsInAColumn()
     for (int notches = 0; notches < 60; notches += 5) {
         QVERIFY2(pair.isSame(), qPrintable(QString::number(notches)));
         Hand::notches(pair.chart, -5);
+    }
+}
+
+void PictureTest::denseHistoriesOverTheEdges_data()
+{
+    everyKindAtEverySizeAndView_data();
+}
+
+// Many points in each pixel column, and Y so near that the lines leave the plot.
+void PictureTest::denseHistoriesOverTheEdges()
+{
+    QFETCH(QString, kind);
+    PicturePair pair(40000.0);
+    pair.resize(QSize(560, 520));
+    pair.add(0, ChartData::points(kind, 0, 20000, 40000.0));
+    pair.add(1, ChartData::points(kind, 1, 20000, 40000.0));
+    Hand::notches(pair.chart, -46);
+    pair.chart.grab();
+    Hand::press(pair.chart, QPointF(280, 260), Qt::RightButton);
+    for (int view = 0; view < 12; ++view) {
+        pair.chart.select(view % 3);
+        QVERIFY2(pair.isSame(), qPrintable(QString::number(view)));
+        Hand::notches(pair.chart, 4);
+    }
+}
+
+// As after another window has moved away: only a part is painted.
+void PictureTest::aPartOfThePicture()
+{
+    PicturePair pair(lengthSec);
+    pair.resize(QSize(500, 400));
+    for (const QString& kind :
+        {QStringLiteral("waveform"), QStringLiteral("noise"), QStringLiteral("slow")}) {
+        pair.add(pair.reference.series.size(), ChartData::points(kind, 1, 6000, lengthSec));
+    }
+    Hand::notches(pair.chart, -22);
+    for (const QRect& part : {QRect(0, 0, 120, 400), QRect(77, 31, 200, 111), QRect(300, 101, 7, 90),
+             QRect(480, 380, 20, 20), QRect(51, 200, 449, 1)}) {
+        for (int channel = 0; channel < 3; ++channel) {
+            pair.chart.select(channel);
+            pair.follow();
+            QCOMPARE(pair.chart.grab(part).toImage(), pair.reference.grab(part).toImage());
+        }
     }
 }
 

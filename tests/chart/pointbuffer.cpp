@@ -19,6 +19,8 @@ private slots:
     void thinningTakesEverySecondPoint();
     void thinningStopsAtItsTarget();
     void extremesAreThoseOfEveryPoint();
+    void everyPairOutsideIsAmongTheCandidates();
+    void blocksWithoutAPairOutsideAreLeftOut();
     void stretchesBreakWhereTheClockStepsBack();
     void aPointThatIsNotFiniteStandsAlone();
     void stretchesAreForgottenWithTheirPoints();
@@ -166,6 +168,55 @@ void PointBufferTest::extremesAreThoseOfEveryPoint()
         QCOMPARE(range.lowest, *ends.first);
         QCOMPARE(range.highest, *ends.second);
     }
+}
+
+void PointBufferTest::everyPairOutsideIsAmongTheCandidates()
+{
+    std::mt19937 random(21);
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    PointBuffer buffer(3000);
+    for (int i = 0; i < 5000; ++i) {
+        buffer.append({1.0 * i, i % 131 == 0 ? nan : 1.0 * (random() % 1000)});
+    }
+    for (int go = 0; go < 300; ++go) {
+        const int from = 1 + static_cast<int>(random() % 2900);
+        const int last = from + static_cast<int>(random() % static_cast<unsigned>(buffer.size() - from));
+        const ValueRange inside{1.0 * (random() % 60), 1000.0 - random() % 60};
+        QVector<bool> isCandidate(buffer.size(), false);
+        int point = from;
+        while (point <= last) {
+            const PointBuffer::Candidates found = buffer.pairsOutside(point, last, inside);
+            QVERIFY(found.from >= point && found.end <= last + 1 && found.end >= found.from);
+            for (int i = found.from; i < found.end; ++i) {
+                isCandidate[i] = true;
+            }
+            point = found.end;
+        }
+        for (int i = from; i <= last; ++i) {
+            const double a = buffer.at(i - 1).degC;
+            const double b = buffer.at(i).degC;
+            const bool isOutside
+                = (a > inside.highest && b > inside.highest) || (a < inside.lowest && b < inside.lowest);
+            QVERIFY(!isOutside || isCandidate.at(i));
+        }
+    }
+}
+
+void PointBufferTest::blocksWithoutAPairOutsideAreLeftOut()
+{
+    PointBuffer buffer;
+    for (int i = 0; i < 100000; ++i) {
+        buffer.append({1.0 * i, i % 2 == 0 ? 100.0 : 900.0});
+    }
+    // Each second point is above and each other below, but no two neighbours are.
+    PointBuffer::Candidates found = buffer.pairsOutside(1, 99999, {400.0, 600.0});
+    QCOMPARE(found.from, 100000);
+    QCOMPARE(found.end, 100000);
+    buffer.append({100000.0, 100.0});
+    buffer.append({100001.0, 200.0});
+    found = buffer.pairsOutside(1, 100001, {400.0, 600.0});
+    QVERIFY(found.from <= 100001 && found.from > 100001 - 64);
+    QCOMPARE(found.end, 100002);
 }
 
 void PointBufferTest::stretchesBreakWhereTheClockStepsBack()
