@@ -36,6 +36,7 @@ void ChartFormsTest::theFormIsAsDrawn()
     QCOMPARE(view->frameShadow(), QFrame::Raised);
     QCOMPARE(view->sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
     QCOMPARE(view->sizePolicy().verticalPolicy(), QSizePolicy::Expanding);
+    QCOMPARE(view->sizePolicy().hasHeightForWidth(), QFrame().sizePolicy().hasHeightForWidth());
     auto* grid = show.findChild<QGridLayout*>(QStringLiteral("gridLayout"));
     QVERIFY(grid != nullptr);
     for (int row = 0; row < 2; ++row) {

@@ -2,6 +2,7 @@
 
 #include "app/mbemain.h"
 #include "chart/tshowview.h"
+#include "support/files.h"
 #include "support/messagecapture.h"
 #include "support/stationfixture.h"
 #include "support/testmain.h"
@@ -17,7 +18,13 @@ class TemperatureRecordTest : public QObject
 
 private slots:
     void init() { station = std::make_unique<StationFixture>(); }
-    void cleanup() { station.reset(); }
+    void cleanup()
+    {
+        station.reset();
+        const QString name = QStringLiteral("TemperatureRec.dat");
+        QFile::setPermissions(name, QFile::ReadOwner | QFile::WriteOwner);
+        QVERIFY(!QFileInfo::exists(name) || QDir().rmdir(name) || QFile::remove(name));
+    }
 
     void theFirstRecordMakesTheFile();
     void aRecordARound();
@@ -25,6 +32,7 @@ private slots:
     void aSecondRunAppendsAndStartsAtZero();
     void whatStandsInTheFileStays();
     void aFileThatCannotBeOpenedIsPassedOver();
+    void aFullDiskKeepsWhatIsThere();
     void theChartGetsWhatIsRecorded_data();
     void theChartGetsWhatIsRecorded();
     void aSilentControllerStopsTheRecord();
@@ -131,26 +139,58 @@ void TemperatureRecordTest::aFileThatCannotBeOpenedIsPassedOver()
     QCOMPARE(content(), atZero);
 }
 
+void TemperatureRecordTest::aFullDiskKeepsWhatIsThere()
+{
+    if (!FullDisk::isPossible()) {
+        QSKIP("no way to limit a file's size here");
+    }
+    StationFixture::storeInUse({});
+    QVERIFY(station->open());
+    station->tick(emptyRound);
+    {
+        const FullDisk full(atZero.size());
+        station->tick(3 * emptyRound);
+    }
+    QCOMPARE(content(), atZero);
+    station->tick(emptyRound);
+    QCOMPARE(content(), atZero + atZero);
+}
+
 void TemperatureRecordTest::theChartGetsWhatIsRecorded_data()
 {
-    QTest::addColumn<bool>("fileIsInTheWay");
-    QTest::newRow("with a file") << false;
-    QTest::newRow("with a directory in the file's place") << true;
+    QTest::addColumn<QString>("obstacle");
+    for (const char* obstacle : {"none", "directory", "read-only file", "full disk"}) {
+        QTest::newRow(obstacle) << QString::fromLatin1(obstacle);
+    }
 }
 
 void TemperatureRecordTest::theChartGetsWhatIsRecorded()
 {
-    QFETCH(const bool, fileIsInTheWay);
-    if (fileIsInTheWay) {
-        QVERIFY(QDir().mkdir(QStringLiteral("TemperatureRec.dat")));
-    }
+    QFETCH(const QString, obstacle);
+    const QString name = QStringLiteral("TemperatureRec.dat");
+    std::unique_ptr<FullDisk> full;
     StationFixture::storeInUse({});
     QVERIFY(station->open());
+    if (obstacle == QStringLiteral("directory")) {
+        QVERIFY(QDir().mkdir(name));
+    } else if (obstacle == QStringLiteral("read-only file")) {
+        putFile(name, "");
+        QVERIFY(QFile::setPermissions(name, QFile::ReadOwner));
+        if (QFile(name).open(QIODevice::Append)) {
+            QSKIP("this user may write to read-only files");
+        }
+    } else if (obstacle == QStringLiteral("full disk")) {
+        if (!FullDisk::isPossible()) {
+            QSKIP("no way to limit a file's size here");
+        }
+        full = std::make_unique<FullDisk>(0);
+    }
     const auto* chart = station->window->findChild<TShowView*>(QStringLiteral("TSView"));
     QVERIFY(chart != nullptr);
     station->tick(emptyRound);
     DrivenClock::advance(30000);
     station->tick(emptyRound);
+    full.reset();
 
     QCOMPARE(chart->channels().size(), 9);
     for (int n = 0; n < 9; ++n) {
@@ -161,8 +201,7 @@ void TemperatureRecordTest::theChartGetsWhatIsRecorded()
         QCOMPARE(points.at(1).sec, 30.0);
         QCOMPARE(points.at(1).degC, Record::value(n, 30.0));
     }
-    QCOMPARE(StationFixture::records(), fileIsInTheWay ? 0 : 2);
-    QDir().rmdir(QStringLiteral("TemperatureRec.dat"));
+    QCOMPARE(StationFixture::records(), obstacle == QStringLiteral("none") ? 2 : 0);
 }
 
 void TemperatureRecordTest::aSilentControllerStopsTheRecord()
