@@ -36,11 +36,10 @@ public:
             ? ValueRange{mapping.dataY(hidden.last), mapping.dataY(hidden.first + 0.5)}
             : ValueRange{infinite, -infinite};
         openRows = openRowsOf(of);
-        int point = of.first + 1;
-        while (point <= of.last && openRows > 0.0) {
-            const PointBuffer::Candidates candidates = buffer.pairsOutside(point, of.last, inside);
-            addAmong(candidates);
-            point = candidates.end;
+        PointBuffer::Candidates found = buffer.pairsOutside(of.first + 1, of.last, inside);
+        while (found.from <= of.last && openRows > 0.0) {
+            addAmong(found);
+            found = buffer.pairsOutside(found.end, of.last, inside);
         }
     }
 
@@ -74,12 +73,11 @@ private:
     void addAmong(const PointBuffer::Candidates& candidates)
     {
         constexpr double none = std::numeric_limits<double>::quiet_NaN();
-        const TPoint* point = &buffer.at(candidates.from - 1);
-        double before = isOutside(point->degC) ? row(point->degC) : none;
-        point = &buffer.at(candidates.from);
-        const TPoint* const end = point + (candidates.end - candidates.from);
-        for (; point != end; ++point) {
-            const double here = isOutside(point->degC) ? row(point->degC) : none;
+        const auto openRow = [&](double degC) { return isOutside(degC) ? row(degC) : none; };
+        double before = openRow(buffer.at(candidates.from - 1).degC);
+        const TPoint* const points = &buffer.at(candidates.from); // of one block, so they follow each other
+        for (int i = 0; i < candidates.end - candidates.from; ++i) {
+            const double here = openRow(points[i].degC);
             if (here == before) {
                 addDot(here);
             }
