@@ -207,12 +207,12 @@ void PictureTest::hiddenSelectedAndFourteenthChannel()
 
 void PictureTest::inAWindowAwayFromItsOrigin()
 {
+    QWidget host; // outlives the widgets in it
     PicturePair pair(lengthSec);
     for (const QString& kind :
         {QStringLiteral("waveform"), QStringLiteral("spikes"), QStringLiteral("slow")}) {
         pair.add(pair.reference.series.size(), ChartData::points(kind, 1, 9000, lengthSec));
     }
-    QWidget host;
     host.resize(600, 420);
     pair.chart.setParent(&host);
     pair.reference.setParent(&host);
@@ -235,8 +235,6 @@ void PictureTest::inAWindowAwayFromItsOrigin()
             }
         }
     }
-    pair.chart.setParent(nullptr);
-    pair.reference.setParent(nullptr);
 }
 
 NELVO_TEST_MAIN(PictureTest)
