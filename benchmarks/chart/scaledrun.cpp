@@ -21,7 +21,7 @@ struct Scale
     const char* sameSize; // the unscaled widget with as many device pixels
 };
 
-// Processor time in ms by benchmark; empty when the run failed.
+// Median processor time in ms by benchmark; empty when the run failed.
 QMap<QString, double> run(const Scale& scale)
 {
     const QTemporaryDir folder;
@@ -43,9 +43,12 @@ QMap<QString, double> run(const Scale& scale)
     QMap<QString, double> times;
     const QJsonArray entries
         = QJsonDocument::fromJson(file.readAll()).object().value(QStringLiteral("benchmarks")).toArray();
-    for (const QJsonValue& entry : entries) {
-        times.insert(entry.toObject().value(QStringLiteral("name")).toString(),
-            entry.toObject().value(QStringLiteral("cpu_time")).toDouble());
+    for (const QJsonValue& value : entries) {
+        const QJsonObject entry = value.toObject();
+        if (entry.value(QStringLiteral("aggregate_name")).toString() == QStringLiteral("median")) {
+            times.insert(entry.value(QStringLiteral("run_name")).toString(),
+                entry.value(QStringLiteral("cpu_time")).toDouble());
+        }
     }
     return times;
 }
