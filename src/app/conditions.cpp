@@ -1,6 +1,6 @@
 #include "app/conditions.h"
 
-#include "app/wholefile.h"
+#include "base/wholefile.h"
 
 #include <QFile>
 #include <QRegularExpression>

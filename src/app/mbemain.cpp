@@ -2,7 +2,7 @@
 
 #include "app/adapteraddress.h"
 #include "app/conditions.h"
-#include "app/wallclock.h"
+#include "base/wallclock.h"
 #include "gpib/gpib.h"
 #include "program/aline.h"
 

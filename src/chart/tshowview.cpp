@@ -2,7 +2,7 @@
 
 #include "chart/tshowview.h"
 
-#include "app/wallclock.h"
+#include "base/wallclock.h"
 
 #include <QMouseEvent>
 #include <QWheelEvent>

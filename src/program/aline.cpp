@@ -1,7 +1,7 @@
 #include "program/aline.h"
 
-#include "app/panelstyle.h"
-#include "temperature/ramp.h"
+#include "base/number.h"
+#include "base/panelstyle.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -134,7 +134,7 @@ void aLine::setMark(bool on)
 
 double aLine::time() const
 {
-    return Ramp::number(timeEdit->text());
+    return readNumber(timeEdit->text()).value_or(0.0);
 }
 
 void aLine::setTime(double t)
@@ -179,7 +179,7 @@ void aLine::setTempText(int ch, const QString& text)
 
 double aLine::temp(int ch) const
 {
-    return Ramp::number(tempText(ch));
+    return readNumber(tempText(ch)).value_or(0.0);
 }
 
 void aLine::setShutter(int n, bool open)

@@ -1,8 +1,8 @@
 // Playing the program table against shutters and cells, one bounded thing a tick.
 
 #include "app/mbemain.h"
-#include "app/panelstyle.h"
-#include "app/wallclock.h"
+#include "base/panelstyle.h"
+#include "base/wallclock.h"
 #include "program/aline.h"
 #include "program/tablerows.h"
 

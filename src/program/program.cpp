@@ -1,8 +1,8 @@
 // The program table: its rows, its bar of buttons, and editing it row by row.
 
-#include "app/debugline.h"
 #include "app/mbemain.h"
-#include "app/panelstyle.h"
+#include "base/debugline.h"
+#include "base/panelstyle.h"
 #include "program/aline.h"
 #include "program/heldupdates.h"
 

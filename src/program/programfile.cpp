@@ -1,6 +1,6 @@
 #include "program/programfile.h"
 
-#include "temperature/ramp.h"
+#include "base/number.h"
 
 #include <QStringList>
 #include <QTextStream>
@@ -56,7 +56,7 @@ std::optional<ProgramStep> stepOf(const QString& line)
     for (int i = 0; i < ProgramStep::shutterCount; ++i) {
         step.shutters[static_cast<size_t>(i)] = fields[firstShutter + i].toInt() == 1;
     }
-    step.timeSec = Ramp::number(fields[timeField]);
+    step.timeSec = readNumber(fields[timeField]).value_or(0.0);
     step.group = fields[groupField] == noGroup ? QString() : fields[groupField];
     step.times = fields[timesField].toInt();
     return step;

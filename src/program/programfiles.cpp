@@ -1,8 +1,8 @@
 // The program table's files.
 
-#include "app/debugline.h"
 #include "app/mbemain.h"
-#include "app/wholefile.h"
+#include "base/debugline.h"
+#include "base/wholefile.h"
 #include "program/aline.h"
 #include "program/heldupdates.h"
 #include "program/programfile.h"

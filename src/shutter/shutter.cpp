@@ -1,8 +1,8 @@
 // The shutter panel and the one command that sets all shutters.
 
-#include "app/debugline.h"
 #include "app/mbemain.h"
-#include "app/panelstyle.h"
+#include "base/debugline.h"
+#include "base/panelstyle.h"
 #include "gpib/gpib.h"
 #include "shutter/shuttercommand.h"
 

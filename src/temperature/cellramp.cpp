@@ -1,8 +1,8 @@
 // The cells' ramps: started and stopped on the panel, stepped by the polling, a set point a minute.
 
 #include "app/mbemain.h"
-#include "app/panelstyle.h"
-#include "app/wallclock.h"
+#include "base/panelstyle.h"
+#include "base/wallclock.h"
 #include "gpib/gpib.h"
 #include "temperature/ramp.h"
 

@@ -1,7 +1,7 @@
 // What is sent to the temperature controllers, and what of their answers is taken.
 
-#include "app/debugline.h"
 #include "app/mbemain.h"
+#include "base/debugline.h"
 #include "gpib/gpib.h"
 #include "temperature/controllermessage.h"
 

@@ -35,10 +35,4 @@ bool reaches(double setPointDegC, double targetDegC, double rate)
     return (rate > 0.0 && setPointDegC >= targetDegC) || (rate < 0.0 && targetDegC >= setPointDegC);
 }
 
-double number(const QString& text)
-{
-    const double value = text.toDouble();
-    return std::isfinite(value) ? value : 0.0;
-}
-
 } // namespace Ramp

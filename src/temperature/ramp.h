@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QtGlobal>
 
 /// The arithmetic of a ramp: its rate, what is refused, and its set points in one-minute steps.
 namespace Ramp {
@@ -27,10 +27,5 @@ double limited(double setPointDegC, double targetDegC, double rate);
 
 /// Whether a ramp is over once `setPointDegC` has been sent. Never, with a rate of 0.
 bool reaches(double setPointDegC, double targetDegC, double rate);
-
-/// An entry of the program table as a number: 0 for what is none. "inf" and "nan" are none here, since no
-/// clock or instrument could make anything of them. (The cell panel takes its entries as they convert: a rise
-/// to "inf" must be refused as too fast, not become a fall to 0.)
-double number(const QString& text);
 
 } // namespace Ramp

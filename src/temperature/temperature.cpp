@@ -2,7 +2,7 @@
 
 #include "app/conditions.h"
 #include "app/mbemain.h"
-#include "app/panelstyle.h"
+#include "base/panelstyle.h"
 #include "gpib/gpib.h"
 #include "temperature/controllermessage.h"
 

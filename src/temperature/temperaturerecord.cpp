@@ -1,7 +1,7 @@
 // The temperature record: one line a polling round, and the same values for the chart.
 
 #include "app/mbemain.h"
-#include "app/wallclock.h"
+#include "base/wallclock.h"
 #include "temperature/recordline.h"
 
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "support/ticks.h"
 
-#include "app/wallclock.h"
+#include "base/wallclock.h"
 
 #include <QCoreApplication>
 #include <QEvent>

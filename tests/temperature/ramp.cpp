@@ -22,8 +22,6 @@ private slots:
     void everyRampEndsOnItsTarget();
     void aTargetBehindTheSetPointEndsTheRampAtOnce();
     void withoutARateThereIsNoLimitAndNoEnd();
-    void numbersOfTheProgramTable_data();
-    void numbersOfTheProgramTable();
 };
 
 namespace {
@@ -149,26 +147,6 @@ void RampTest::withoutARateThereIsNoLimitAndNoEnd()
     QCOMPARE(Ramp::limited(100.0, 150.0, 0.0), 100.0);
     QVERIFY(!Ramp::reaches(100.0, 100.0, 0.0));
     QCOMPARE(setPoints(100.0, 100.0, 0.0, 50), QVector<double>(50, 100.0));
-}
-
-void RampTest::numbersOfTheProgramTable_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<double>("number");
-    QTest::newRow("plain") << QStringLiteral("12.5") << 12.5;
-    QTest::newRow("blanks around") << QStringLiteral(" -3 ") << -3.0;
-    QTest::newRow("empty") << QString() << 0.0;
-    QTest::newRow("a comma") << QStringLiteral("12,5") << 0.0;
-    QTest::newRow("inf") << QStringLiteral("inf") << 0.0;
-    QTest::newRow("nan") << QStringLiteral("nan") << 0.0;
-    QTest::newRow("too large") << QStringLiteral("1e999") << 0.0;
-}
-
-void RampTest::numbersOfTheProgramTable()
-{
-    QFETCH(QString, text);
-    QFETCH(double, number);
-    QCOMPARE(Ramp::number(text), number);
 }
 
 NELVO_TEST_MAIN(RampTest)

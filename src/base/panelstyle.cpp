@@ -1,4 +1,4 @@
-#include "app/panelstyle.h"
+#include "base/panelstyle.h"
 
 #include <QAbstractButton>
 
