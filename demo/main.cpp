@@ -50,11 +50,10 @@ int main(int argc, char* argv[])
         return failed(QStringLiteral("the simulated chamber did not start: ") + chamber.error());
     }
 
-    QTranslator japanese;
-    if (!loadJapanese(japanese, QCoreApplication::applicationDirPath())) {
+    QTranslator translator;
+    if (!speak(japanese(), translator)) {
         return failed(QStringLiteral("the Japanese catalogue is missing"));
     }
-    QCoreApplication::installTranslator(&japanese);
     {
         const auto window = std::make_unique<MBEMain>();
         window->show();
@@ -63,7 +62,7 @@ int main(int argc, char* argv[])
             return failed(session.failure());
         }
     }
-    QCoreApplication::removeTranslator(&japanese);
+    QCoreApplication::removeTranslator(&translator);
     const auto window = std::make_unique<MBEMain>();
     window->show();
     Session session(*window, chamber, folders[1], folders[2]);

@@ -45,13 +45,9 @@ void writeTree(const char* path)
 int stationMain(int argc, char* argv[], const char* treePath)
 {
     QApplication::setStyle(QStringLiteral("Fusion"));
-    const Language language = chooseLanguage({QString::fromLocal8Bit(argv[0])});
     QApplication application(argc, argv);
     QTranslator translator;
-    if (language == Language::Japanese) {
-        loadJapanese(translator, QCoreApplication::applicationDirPath());
-        QCoreApplication::installTranslator(&translator);
-    }
+    speak(chooseLanguage({QString::fromLocal8Bit(argv[0])}), translator);
     auto* window = new MBEMain;
     FirstPaint painted(*window, [treePath] {
         if (treePath != nullptr) {

@@ -1,19 +1,30 @@
 #pragma once
 
 #include <QStringList>
+#include <QVector>
 
 class QTranslator;
 
-/// The two languages of the window.
-enum class Language { Japanese, English };
+/// A language of the window.
+struct Language
+{
+    QString argument; ///< chooses it on the command line
+    QString catalogue; ///< resource with its texts; empty for English, in which the program is written
+};
+
+/// All languages; the first one is the default.
+const QVector<Language>& languages();
+const Language& japanese();
+const Language& english();
 
 /// Chooses the language from the whole argument vector, the program's own path included.
 ///
-/// Japanese unless told otherwise; of "-j" and "-e" after the program's path the last one wins (exact,
-/// case-sensitive); a program path that contains "Nelvoe" anywhere is English whatever the switches say.
-/// An empty list gives Japanese.
-Language chooseLanguage(const QStringList& arguments);
+/// Japanese unless told otherwise; of the languages' arguments after the program's path the last one wins
+/// (exact, case-sensitive); a program path that contains "Nelvoe" anywhere is English whatever the arguments
+/// say. An empty list gives Japanese.
+const Language& chooseLanguage(const QStringList& arguments);
 
-/// Loads the Japanese catalogue compiled into the program into `translator`; `applicationDirectory` plays no
-/// part in finding it. False when the catalogue is missing, which leaves the texts in English.
-bool loadJapanese(QTranslator& translator, const QString& applicationDirectory);
+/// Has the application speak `language`: loads its catalogue, compiled into the program, into `translator`,
+/// which must live as long as the texts are needed, and installs it. False when there is no catalogue, which
+/// leaves the texts in English.
+bool speak(const Language& language, QTranslator& translator);

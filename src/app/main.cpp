@@ -12,14 +12,10 @@ int main(int argc, char* argv[])
     for (int i = 0; i < argc; ++i) {
         arguments.append(QString::fromLocal8Bit(argv[i]));
     }
-    const Language language = chooseLanguage(arguments);
 
     QApplication application(argc, argv);
     QTranslator translator;
-    if (language == Language::Japanese) {
-        loadJapanese(translator, QCoreApplication::applicationDirPath());
-        QCoreApplication::installTranslator(&translator);
-    }
+    speak(chooseLanguage(arguments), translator);
 
     // Never deleted: ending the program sends nothing to the instruments, and the destructors of the window
     // and of its link must not change that.
