@@ -1,5 +1,7 @@
 #include "simulator/controllerprotocol.h"
 
+#include "base/channels.h"
+
 #include <QString>
 
 #include <cmath>
@@ -33,7 +35,7 @@ int unitOf(const QByteArray& message)
         return 0;
     }
     const char digit = message[2];
-    return digit >= '1' && digit <= '9' ? digit - '0' : 0;
+    return Channels::has(digit - Channels::unitDigit(0)) ? digit - '0' : 0;
 }
 
 bool isDigit(char character)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/channels.h"
 #include "simulator/randomsource.h"
 
 #include <QByteArray>
@@ -71,7 +72,7 @@ private:
     FaultRates rates;
     std::vector<RandomSource> strikeSources; ///< whether a kind strikes
     std::vector<RandomSource> detailSources; ///< and how: which byte, how long
-    std::array<bool, 10> silent = {};
+    std::array<bool, Channels::count + 1> silent = {}; // by unit
 };
 
 } // namespace Chamber

@@ -1,12 +1,8 @@
 #include "simulator/shuttercontroller.h"
 
+#include "base/channels.h"
+
 namespace Chamber {
-
-namespace {
-
-constexpr int shutterCount = 7;
-
-} // namespace
 
 QByteArray ShutterController::take(const BusMessage& message)
 {
@@ -14,12 +10,12 @@ QByteArray ShutterController::take(const BusMessage& message)
         return "rejected shutters " + QByteArray::number(message.bytes.size()) + " bytes instead of 1";
     }
     const int mask = static_cast<uchar>(message.bytes[0]);
-    if (mask >= 1 << shutterCount) {
+    if (mask >= 1 << Channels::shutterCount) {
         return QByteArrayLiteral("rejected shutters bit 7 is set");
     }
     openMask = mask;
     QByteArray event = QByteArrayLiteral("shutters ");
-    for (int shutter = 0; shutter < shutterCount; ++shutter) {
+    for (int shutter = 0; shutter < Channels::shutterCount; ++shutter) {
         event.append((mask & (1 << shutter)) != 0 ? 'o' : 'x');
     }
     return event;

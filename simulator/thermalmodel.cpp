@@ -7,7 +7,6 @@ namespace Chamber {
 namespace {
 
 constexpr quint64 noiseStream = 1000;
-constexpr int firstSubstrate = 7;
 
 } // namespace
 
@@ -32,7 +31,7 @@ double ThermalModel::setPoint(int cell) const
 double ThermalModel::temperature(int cell, double nowSec) const
 {
     const Cell& asked = cells.at(static_cast<size_t>(cell));
-    const double lagSec = cell < firstSubstrate ? sourceLagSec : substrateLagSec;
+    const double lagSec = cell < Channels::shutterCount ? sourceLagSec : substrateLagSec;
     const double elapsedSec = qMax(0.0, nowSec - asked.fromSec);
     return asked.setPointDegC + (asked.fromDegC - asked.setPointDegC) * std::exp(-elapsedSec / lagSec);
 }

@@ -1,17 +1,17 @@
 #pragma once
 
+#include "base/channels.h"
 #include "simulator/randomsource.h"
 
 #include <array>
 
 namespace Chamber {
 
-/// The nine heaters: 0 to 6 are the source cells, 7 and 8 the substrates. Each follows its set point with a
+/// The heaters of all channels, the substrates behind the source cells. Each follows its set point with a
 /// first-order lag. Temperatures are in deg C, times in s of the model on one scale that never runs back.
 class ThermalModel
 {
 public:
-    static constexpr int cellCount = 9;
     static constexpr double startDegC = 25.0;
     static constexpr double sourceLagSec = 40.0;
     static constexpr double substrateLagSec = 90.0;
@@ -38,7 +38,7 @@ private:
         double fromSec = 0.0;
         double setPointDegC = startDegC;
     };
-    std::array<Cell, cellCount> cells;
+    std::array<Cell, Channels::count> cells;
     RandomSource noise;
 };
 

@@ -9,6 +9,11 @@
 #include <QFileDialog>
 #include <QTimer>
 
+static_assert(
+    Channels::count == 9, "mainwindow.ui has nine columns of cell widgets, CName01 to ETime09: add one");
+static_assert(Channels::shutterCount == 7,
+    "mainwindow.ui has seven columns of shutter widgets, SName01 to NS07: add one");
+
 // The order below is the order in which the parts of the station come alive; each step needs those before it.
 MBEMain::MBEMain()
 {
@@ -47,8 +52,9 @@ MBEMain::~MBEMain()
 
 void MBEMain::setupNames()
 {
-    cellNames << tr("Be") << tr("Ga") << tr("Si") << tr("As4") << tr("Al") << tr("In") << tr("As7")
-              << tr("Main Ch") << tr("Pre Ch");
+    for (const Channels::Channel& channel : Channels::list) {
+        cellNames.append(tr(channel.name));
+        riseRateLimits.append(channel.riseLimit);
+    }
     shutterNames = cellNames;
-    riseRateLimits.fill(50.0, cellNames.size());
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "base/channels.h"
 #include "program/blockcursor.h"
+#include "temperature/polling.h"
 #include "ui_mainwindow.h"
 
 #include <QByteArray>
@@ -18,11 +20,11 @@ class QTimer;
 
 /// The station's one window. It owns everything: the form, the settings store, the link to the instruments,
 /// the timers and the program table. Shutters, temperatures and the automatic program are groups of its
-/// methods, each in a source unit of its own folder (shutter/, temperature/, program/).
+/// methods, in the units mbemain_….cpp of their folders (shutter/, temperature/, program/).
 ///
-/// It is created once and never deleted: at exit nothing is sent to the instruments. Channels are numbered 0
-/// to 8 ("Be", "Ga", "Si", "As4", "Al", "In", "As7", "Main Ch", "Pre Ch"), shutters are the channels 0 to 6.
-/// The signal and the slots keep their order: their places in the meta-object are part of the interface.
+/// It is created once and never deleted: at exit nothing is sent to the instruments. Every list of a
+/// channel's or a shutter's widgets and values goes by its number (base/channels.h). The signal and the slots
+/// keep their order: their places in the meta-object are part of the interface.
 class MBEMain : public QMainWindow, private Ui::MainWindow
 {
     Q_OBJECT
@@ -70,6 +72,8 @@ private:
 
     // shutter/
     void setupShutter();
+    /// Makes the states, one a shutter, true = open, the commanded ones, and has them shown and sent.
+    void commandShutters(const QVector<bool>& open);
 
     // temperature/: the controllers' messages. All are false when nothing was sent.
     bool SndTMPCtrl(char* msg, int size, bool addBcc, bool waitReply);
@@ -78,13 +82,13 @@ private:
 
     // temperature/: polling and ramps
     void setupTemperature();
+    void findCellWidgets();
     void showCellActive(int ch);
     void requestReading();
-    void awaitReading();
     void showReading();
-    void stepRamps();
-    void nextPoll();
     void startStopCell(int ch);
+    /// Writes the entries (deg C, minutes) into the panel and starts a ramp from them.
+    void restartRamp(int ch, const QString& targetDegC, const QString& durationMin);
     void stopCell(int ch);
     bool anyCellRunning() const;
     bool rampStep(int ch);
@@ -94,6 +98,8 @@ private:
     // program/: the table and its files
     void setupProgram();
     void setupProgramDialogs();
+    void setupProgramTable();
+    void setupProgramBar();
     void setupProgramHeader();
     void addProgramHeader(const QString& text, int row, int column, int columns, const QString& style);
     int senderLine() const;
@@ -144,16 +150,8 @@ private:
     QVector<double> rampRate; // deg C per minute, negative when falling
     QVector<double> rampSetPoint; // deg C, the next one to send
 
-    // temperature/: the polling state machine, one action a tick
-    enum WatchState { Read, AwaitReply, ReplyReady, RampStep, NextChannel };
     QTimer* watchTimer = nullptr;
-    int watchState = WatchState::Read;
-    int tickCount = 0; // 0 to 299, a full cycle is 3 s
-    int sentTick = 0;
-    int lastRampTick = 0;
-    int pollCh = 0;
-    int rampCh = 0;
-    QByteArray tmpReply;
+    Polling polling; // watchState, tickCount, sentTick, lastRampTick, pollCh, rampCh, tmpReply
 
     // program/: the table, 200 rows for the life of the window
     QFileDialog* loadDialog = nullptr;
@@ -162,7 +160,7 @@ private:
     aLine* clipLine = nullptr; // the row held by copy and cut, never shown
 
     // program/: the player, at most one step a tick
-    enum StepPhase { ToStart, Playing };
+    enum class StepPhase { ToStart, Playing };
     QString progRunText;
     QString progStopText;
     QString progResumeText;
@@ -173,6 +171,6 @@ private:
     qint64 progStartMs = 0; // ms since the epoch
     qint64 stepStartMs = 0; // ms since the epoch
     double stepTime = 0.0; // s, as read when the step started
-    int stepPhase = StepPhase::ToStart;
+    StepPhase stepPhase = StepPhase::ToStart;
     BlockCursor progWalk; // curStep, groupTimes, groupCount, groupStart
 };

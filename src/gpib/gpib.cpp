@@ -36,6 +36,7 @@ GPIB::~GPIB()
 void GPIB::connectAdapter(const QString& host, int port)
 {
     if (socket != nullptr) {
+        // Always so here: there is a socket.
         if (isConnected()) {
             socket->disconnectFromHost();
         }

@@ -12,9 +12,6 @@
 
 namespace {
 
-constexpr int cellCount = ProgramStep::shutterCount;
-constexpr int substrateCount = ProgramStep::channelCount - cellCount;
-
 void setTextOf(QLineEdit& edit, const QString& text)
 {
     if (edit.text() != text) {
@@ -37,7 +34,7 @@ aLine::aLine(QWidget* widgetParent)
     , offText(tr("Off"))
     , menu(new QMenu)
     , stepLabel(new QLabel(widgetParent))
-    , shutterStates(cellCount, false)
+    , shutterStates(Channels::shutterCount, false)
     , owner(widgetParent == nullptr)
 {
     buildMenu();
@@ -48,11 +45,11 @@ aLine::aLine(QWidget* widgetParent)
     connect(stepLabel, SIGNAL(customContextMenuRequested(QPoint)), this, SLOT(PopUpEMenu(QPoint)),
         Qt::UniqueConnection);
 
-    for (int n = 0; n < cellCount; ++n) {
+    for (int n = 0; n < Channels::shutterCount; ++n) {
         buildCell(widgetParent);
         showShutter(n);
     }
-    for (int n = 0; n < substrateCount; ++n) {
+    for (int n = 0; n < Channels::substrateCount; ++n) {
         substrateEdits.append(newEdit(QStringLiteral("0"), widgetParent));
     }
     timeEdit = newEdit(QStringLiteral("0"), widgetParent);
@@ -108,18 +105,18 @@ void aLine::buildCell(QWidget* widgetParent)
 
 void aLine::placeInGrid(QGridLayout* grid, int row)
 {
+    static_assert(ProgramColumns == TimesColumn + 1, "a new column of the table needs its widget here");
     owner = false;
-    int column = 0;
-    grid->addWidget(stepLabel, row, column++);
-    for (QWidget* cell : qAsConst(cells)) {
-        grid->addWidget(cell, row, column++);
+    grid->addWidget(stepLabel, row, StepColumn);
+    for (int n = 0; n < cells.size(); ++n) {
+        grid->addWidget(cells[n], row, FirstCellColumn + n);
     }
-    for (QLineEdit* edit : qAsConst(substrateEdits)) {
-        grid->addWidget(edit, row, column++);
+    for (int n = 0; n < substrateEdits.size(); ++n) {
+        grid->addWidget(substrateEdits[n], row, FirstSubstrateColumn + n);
     }
-    grid->addWidget(timeEdit, row, column++);
-    grid->addWidget(groupEdit, row, column++);
-    grid->addWidget(timesEdit, row, column++);
+    grid->addWidget(timeEdit, row, TimeColumn);
+    grid->addWidget(groupEdit, row, GroupColumn);
+    grid->addWidget(timesEdit, row, TimesColumn);
 }
 
 void aLine::setStep(int n)

@@ -55,6 +55,8 @@ public:
     /// deg C; 0 for a text that is no (finite) number.
     double temp(int ch) const;
     bool shutter(int n) const { return shutterStates[n]; }
+    /// All shutters, in order; true = open.
+    const QVector<bool>& shutters() const { return shutterStates; }
     void setShutter(int n, bool open);
 
     /// The step this row shows. Time and repeat count go through their numbers, so that what is no number

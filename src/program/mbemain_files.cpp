@@ -4,7 +4,7 @@
 #include "base/debugline.h"
 #include "base/wholefile.h"
 #include "program/aline.h"
-#include "program/heldupdates.h"
+#include "program/livetable.h"
 #include "program/programfile.h"
 
 #include <QDir>

@@ -4,9 +4,9 @@
 #include "base/panelstyle.h"
 #include "base/wallclock.h"
 #include "program/aline.h"
+#include "program/livetable.h"
 #include "program/tablerows.h"
 
-#include <QLabel>
 #include <QTimer>
 
 namespace {
@@ -37,21 +37,6 @@ private:
     };
     QVector<Row> rows;
 };
-
-// A label that changes ten times a second must not change its size with each text: the tab around it would be
-// laid out and painted anew, the whole table with it. It keeps a size and only grows, for a text that has no
-// room.
-void showFigure(QLabel& label, const QString& text)
-{
-    if (label.text() == text) {
-        return;
-    }
-    label.setText(text);
-    const QSize needed = label.sizeHint();
-    if (label.maximumWidth() < needed.width() || label.minimumWidth() != label.maximumWidth()) {
-        label.setFixedSize(needed);
-    }
-}
 
 QString shownSeconds(double seconds)
 {
@@ -146,10 +131,7 @@ void MBEMain::startStep(qint64 nowMs)
     if (stepTime > 0.0) {
         startRamps(line);
     }
-    for (int n = 0; n < line.shutterCount(); ++n) {
-        currentShutterState[n] = line.shutter(n);
-    }
-    ActionShutter();
+    commandShutters(line.shutters());
 
     showFigure(*DispTime01, QStringLiteral("0"));
     showFigure(*DispTime02, shownSeconds(stepTime));
@@ -165,10 +147,7 @@ void MBEMain::startRamps(const aLine& line)
         if (line.temp(ch) <= 0.0) {
             continue;
         }
-        targetEdits[ch]->setText(line.tempText(ch));
-        durationEdits[ch]->setText(minutes);
-        cellRunning[ch] = false;
-        startStopCell(ch);
+        restartRamp(ch, line.tempText(ch), minutes);
     }
 }
 

@@ -4,10 +4,8 @@
 #include "base/debugline.h"
 #include "base/panelstyle.h"
 #include "program/aline.h"
-#include "program/heldupdates.h"
+#include "program/livetable.h"
 
-#include <QCoreApplication>
-#include <QEvent>
 #include <QTimer>
 
 namespace {
@@ -15,19 +13,18 @@ namespace {
 constexpr int rowCount = 200;
 constexpr int headerRows = 2;
 
-// Every new widget asks to be polished as soon as the event loop runs. Those of a table that is not in sight
-// can wait until it is shown, which polishes them anyhow: that halves the time to the window's first picture.
-void leavePolishingToTheFirstShow()
-{
-    QCoreApplication::removePostedEvents(nullptr, QEvent::PolishRequest);
-}
-
 } // namespace
 
 void MBEMain::setupProgram()
 {
     setupProgramDialogs();
+    setupProgramTable();
+    setupProgramBar();
+}
 
+void MBEMain::setupProgramTable()
+{
+    const LatePolish late;
     clipLine = new aLine;
     Program->setHorizontalSpacing(3);
     Program->setVerticalSpacing(4);
@@ -43,8 +40,10 @@ void MBEMain::setupProgram()
         connect(line, SIGNAL(undo()), this, SLOT(APUndo()), Qt::UniqueConnection);
         progLines.append(line);
     }
-    leavePolishingToTheFirstShow();
+}
 
+void MBEMain::setupProgramBar()
+{
     progRunText = tr("Run");
     progStopText = tr("Stop");
     progResumeText = tr("Resume");
@@ -72,19 +71,19 @@ void MBEMain::setupProgramHeader()
     const QString substrateStyle = QStringLiteral("background-color: rgb(255, 240, 240);");
     const QString sequenceStyle = QStringLiteral("background-color: rgb(240, 250, 255);");
 
-    addProgramHeader(tr("Cell Tmp. and Open/Close"), 0, 1, 7, cellStyle);
-    addProgramHeader(tr("Sub. Tmp."), 0, 8, 2, substrateStyle);
-    addProgramHeader(tr("Seq. Ctrl."), 0, 10, 3, sequenceStyle);
+    static_assert(ProgramColumns == TimesColumn + 1, "a new column of the table needs its heading here");
+    addProgramHeader(tr("Cell Tmp. and Open/Close"), 0, FirstCellColumn, Channels::shutterCount, cellStyle);
+    addProgramHeader(tr("Sub. Tmp."), 0, FirstSubstrateColumn, Channels::substrateCount, substrateStyle);
+    addProgramHeader(tr("Seq. Ctrl."), 0, TimeColumn, ProgramColumns - TimeColumn, sequenceStyle);
 
-    addProgramHeader(tr("Step"), 1, 0, 1, sequenceStyle);
-    for (int n = 0; n < clipLine->shutterCount(); ++n) {
-        addProgramHeader(cellNames[n], 1, n + 1, 1, cellStyle);
+    addProgramHeader(tr("Step"), 1, StepColumn, 1, sequenceStyle);
+    for (int n = 0; n < Channels::count; ++n) {
+        const QString& style = n < Channels::shutterCount ? cellStyle : substrateStyle;
+        addProgramHeader(cellNames[n], 1, FirstCellColumn + n, 1, style);
     }
-    addProgramHeader(tr("Main Ch"), 1, 8, 1, substrateStyle);
-    addProgramHeader(tr("Pre Ch"), 1, 9, 1, substrateStyle);
-    addProgramHeader(tr("Time[sec]"), 1, 10, 1, sequenceStyle);
-    addProgramHeader(tr("Group"), 1, 11, 1, sequenceStyle);
-    addProgramHeader(tr("Times"), 1, 12, 1, sequenceStyle);
+    addProgramHeader(tr("Time[sec]"), 1, TimeColumn, 1, sequenceStyle);
+    addProgramHeader(tr("Group"), 1, GroupColumn, 1, sequenceStyle);
+    addProgramHeader(tr("Times"), 1, TimesColumn, 1, sequenceStyle);
 }
 
 void MBEMain::addProgramHeader(const QString& text, int row, int column, int columns, const QString& style)

@@ -9,13 +9,15 @@ namespace ProgramFile {
 
 namespace {
 
-constexpr int fieldCount = 20;
-constexpr int firstSetPoint = 1;
-constexpr int firstShutter = firstSetPoint + ProgramStep::channelCount;
-constexpr int timeField = firstShutter + ProgramStep::shutterCount;
-constexpr int groupField = timeField + 1;
-constexpr int timesField = groupField + 1;
-static_assert(timesField == fieldCount - 1, "the repeat count is the last field");
+constexpr int firstSetPoint = FirstCellColumn;
+constexpr int firstShutter = TimeColumn;
+constexpr int timeField = TimeColumn + Channels::shutterCount;
+constexpr int groupField = GroupColumn + Channels::shutterCount;
+constexpr int timesField = TimesColumn + Channels::shutterCount;
+constexpr int fieldCount = ProgramColumns + Channels::shutterCount;
+static_assert(fieldCount == 20,
+    "the programs that laboratories have saved are lines of 20 fields: say how they are read");
+static_assert(timesField == fieldCount - 1, "a new column of the table has to be written and read here");
 
 // An empty group would vanish between its two tabs and shift the repeat count.
 const QLatin1String noGroup("---NoGroup---");
@@ -50,10 +52,10 @@ std::optional<ProgramStep> stepOf(const QString& line)
         return std::nullopt;
     }
     ProgramStep step;
-    for (int i = 0; i < ProgramStep::channelCount; ++i) {
+    for (int i = 0; i < Channels::count; ++i) {
         step.setPoints[static_cast<size_t>(i)] = fields[firstSetPoint + i];
     }
-    for (int i = 0; i < ProgramStep::shutterCount; ++i) {
+    for (int i = 0; i < Channels::shutterCount; ++i) {
         step.shutters[static_cast<size_t>(i)] = fields[firstShutter + i].toInt() == 1;
     }
     step.timeSec = readNumber(fields[timeField]).value_or(0.0);

@@ -2,6 +2,7 @@
 
 #include "app/mbemain.h"
 #include "base/debugline.h"
+#include "base/numberedwidgets.h"
 #include "base/panelstyle.h"
 #include "gpib/gpib.h"
 #include "shutter/shuttercommand.h"
@@ -13,12 +14,12 @@ void MBEMain::setupShutter()
     openText = tr("Open");
     closeText = tr("Close");
 
-    shutterLabels << SName01 << SName02 << SName03 << SName04 << SName05 << SName06 << SName07;
-    currentButtons << CS01 << CS02 << CS03 << CS04 << CS05 << CS06 << CS07;
-    nextButtons << NS01 << NS02 << NS03 << NS04 << NS05 << NS06 << NS07;
+    shutterLabels = numberedWidgets<QLabel>(*this, QStringLiteral("SName"), Channels::shutterCount);
+    currentButtons = numberedWidgets<QToolButton>(*this, QStringLiteral("CS"), Channels::shutterCount);
+    nextButtons = numberedWidgets<QToolButton>(*this, QStringLiteral("NS"), Channels::shutterCount);
 
-    nextShutterState.fill(false, nextButtons.size());
-    currentShutterState.fill(false, nextButtons.size());
+    nextShutterState.fill(false, Channels::shutterCount);
+    currentShutterState.fill(false, Channels::shutterCount);
 
     for (int n = 0; n < nextButtons.size(); ++n) {
         showState(*nextButtons[n], nextShutterState[n], nextShutterState[n] ? openText : closeText);
@@ -57,19 +58,25 @@ void MBEMain::NewCurrentShutter()
 
 void MBEMain::ChangeShutter()
 {
-    currentShutterState = nextShutterState;
-    ActionShutter();
+    commandShutters(nextShutterState);
 }
 
 void MBEMain::AllClose()
 {
     NELVO_DEBUG("shutter") << "All Close" << nextButtons.size();
-    currentShutterState.fill(false);
+    commandShutters(QVector<bool>(Channels::shutterCount, false));
+}
+
+void MBEMain::commandShutters(const QVector<bool>& open)
+{
+    currentShutterState = open;
     ActionShutter();
 }
 
 void MBEMain::ActionShutter()
 {
+    // A reply is pending only while the temperature controllers are addressed, so the address decides
+    // nothing; it says what the test is about.
     if (gpib->address() != shutterAddress && gpib->isReplyPending()) {
         NELVO_DEBUG("shutter") << "Shutter retrying";
         actionTimer->setInterval(10);
@@ -84,6 +91,8 @@ void MBEMain::ActionShutter()
         showState(*currentButtons[n], currentShutterState[n], currentShutterState[n] ? openText : closeText);
     }
 
+    // Selected before the connection is asked for and again after it, as the sequence has always been; the
+    // second time sends nothing.
     gpib->setAddr(shutterAddress);
     if (!gpib->isConnected()) {
         NELVO_DEBUG("shutter") << "not connected for shtter controll";

@@ -1,10 +1,13 @@
 #include "shutter/shuttercommand.h"
 
+#include "base/channels.h"
+
 #include <QtGlobal>
 
 namespace {
 
-constexpr int shutterCount = 7;
+static_assert(Channels::shutterCount <= 7, "the mask has seven bits for shutters, its eighth is always 0");
+
 constexpr char escape = '\x1B';
 
 } // namespace
@@ -12,7 +15,7 @@ constexpr char escape = '\x1B';
 QByteArray shutterCommand(const QVector<bool>& open)
 {
     int mask = 0;
-    for (int n = 0; n < qMin(open.size(), shutterCount); ++n) {
+    for (int n = 0; n < qMin(open.size(), Channels::shutterCount); ++n) {
         if (open[n]) {
             mask |= 1 << n;
         }

@@ -1,5 +1,7 @@
 #include "temperature/controllermessage.h"
 
+#include "base/channels.h"
+
 #include <cmath>
 #include <iomanip>
 #include <locale>
@@ -14,10 +16,14 @@ constexpr char endOfText = '\x03';
 constexpr char endOfTransmission = '\x04';
 constexpr char enquiry = '\x05';
 
+constexpr int replyLength = 11;
+constexpr int valueStart = 3;
+constexpr int valueLength = 7;
+
 QByteArray opening(int channel)
 {
     QByteArray bytes;
-    bytes.append(endOfTransmission).append('0').append(static_cast<char>('1' + channel));
+    bytes.append(endOfTransmission).append('0').append(Channels::unitDigit(channel));
     return bytes;
 }
 
@@ -39,11 +45,17 @@ const QByteArray errorReply = QByteArrayLiteral("ER");
 
 QByteArray readRequest(int channel)
 {
+    if (!Channels::has(channel)) {
+        return {};
+    }
     return opening(channel).append("M1").append(enquiry);
 }
 
 QByteArray setPoint(int channel, double degC)
 {
+    if (!Channels::has(channel)) {
+        return {};
+    }
     return opening(channel).append(startOfText).append("S1").append(inSixCharacters(degC)).append(endOfText);
 }
 
@@ -65,7 +77,7 @@ bool appendBlockCheck(char* message, int size)
 
 bool isReply(int bytes, const QByteArray& line)
 {
-    return bytes == 11 || (bytes == 2 && line == errorReply);
+    return bytes == replyLength || (bytes == 2 && line == errorReply);
 }
 
 QString shownValue(const QByteArray& reply)
@@ -73,7 +85,7 @@ QString shownValue(const QByteArray& reply)
     if (reply == errorReply) {
         return unknownValue();
     }
-    return QString::number(reply.mid(3, 7).toDouble(), 'g', 6);
+    return QString::number(reply.mid(valueStart, valueLength).toDouble(), 'g', 6);
 }
 
 QString unknownValue()

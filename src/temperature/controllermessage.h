@@ -16,10 +16,12 @@ constexpr int gpibAddress = 1;
 /// What stands in the place of a reply when the controller reports an error or says nothing.
 extern const QByteArray errorReply;
 
-/// The request for the measured value of `channel` (0 to 8): six bytes, no block check.
+/// The request for the measured value of `channel`: six bytes, no block check. Nothing for a channel that
+/// there is none of.
 QByteArray readRequest(int channel);
 
-/// The message that gives `channel` (0 to 8) the set point `degC`, block check not yet appended. The value
+/// The message that gives `channel` the set point `degC`, block check not yet appended; nothing for a channel
+/// that there is none of. The value
 /// has one decimal, rounded to nearest and exact halves to even, and is padded with zeros to six characters,
 /// sign and point included (25 is "0025.0", -5 is "-005.0"); 10000 and more take more. Always with a decimal
 /// point, whatever the locale.

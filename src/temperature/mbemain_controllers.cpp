@@ -1,4 +1,4 @@
-// What is sent to the temperature controllers, and what of their answers is taken.
+// What is sent to the temperature controllers.
 
 #include "app/mbemain.h"
 #include "base/debugline.h"
@@ -43,23 +43,20 @@ bool MBEMain::SndTMPCtrl(char* msg, int size, bool addBcc, bool waitReply)
 
 bool MBEMain::reqTMP(unsigned char channel)
 {
-    MessageBuffer buffer = inBuffer(ControllerMessage::readRequest(channel));
+    const QByteArray request = ControllerMessage::readRequest(channel);
+    if (request.isEmpty()) {
+        return false;
+    }
+    MessageBuffer buffer = inBuffer(request);
     return SndTMPCtrl(buffer.data(), bufferSize, false, true);
 }
 
 bool MBEMain::setTMP(unsigned char channel, double setPointDegC)
 {
-    MessageBuffer buffer = inBuffer(ControllerMessage::setPoint(channel, setPointDegC));
+    const QByteArray message = ControllerMessage::setPoint(channel, setPointDegC);
+    if (message.isEmpty()) {
+        return false;
+    }
+    MessageBuffer buffer = inBuffer(message);
     return SndTMPCtrl(buffer.data(), bufferSize, true, true);
-}
-
-void MBEMain::newData(int bytes, QByteArray line)
-{
-    if (!ControllerMessage::isReply(bytes, line)) {
-        return;
-    }
-    tmpReply = line;
-    if (watchState == WatchState::AwaitReply) {
-        watchState = WatchState::ReplyReady;
-    }
 }

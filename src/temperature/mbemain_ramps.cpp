@@ -57,6 +57,15 @@ void MBEMain::startStopCell(int ch)
     showState(*runButtons[ch], true, stopText);
 }
 
+// A ramp that still runs is replaced, whoever started it.
+void MBEMain::restartRamp(int ch, const QString& targetDegC, const QString& durationMin)
+{
+    targetEdits[ch]->setText(targetDegC);
+    durationEdits[ch]->setText(durationMin);
+    cellRunning[ch] = false;
+    startStopCell(ch);
+}
+
 void MBEMain::stopCell(int ch)
 {
     cellRunning[ch] = false;

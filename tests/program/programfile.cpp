@@ -31,7 +31,7 @@ const QString defaultLine = tabbed("0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 ---NoGro
 ProgramStep someStep()
 {
     ProgramStep step;
-    for (int ch = 0; ch < ProgramStep::channelCount; ++ch) {
+    for (int ch = 0; ch < Channels::count; ++ch) {
         step.setPoints[static_cast<size_t>(ch)] = QString::number(100 * ch + 0.5);
     }
     step.shutters = {true, false, true, true, false, false, true};

@@ -116,10 +116,10 @@ QLineEdit* ProgramWindow::setPoint(int row, int ch)
 ProgramStep ProgramWindow::row(int row)
 {
     ProgramStep step;
-    for (int ch = 0; ch < ProgramStep::channelCount; ++ch) {
+    for (int ch = 0; ch < Channels::count; ++ch) {
         step.setPoints[static_cast<size_t>(ch)] = setPoint(row, ch)->text();
     }
-    for (int n = 0; n < ProgramStep::shutterCount; ++n) {
+    for (int n = 0; n < Channels::shutterCount; ++n) {
         const bool open = shutter(row, n)->styleSheet() == yellow;
         if (shutter(row, n)->text() != QLatin1String(open ? "On" : "Off")
             || (!open && shutter(row, n)->styleSheet() != olive)) {

@@ -20,7 +20,7 @@ private slots:
     void everythingRestsAtRoomTemperature()
     {
         const ThermalModel model(1);
-        for (int cell = 0; cell < ThermalModel::cellCount; ++cell) {
+        for (int cell = 0; cell < Channels::count; ++cell) {
             QCOMPARE(model.temperature(cell, 0.0), 25.0);
             QCOMPARE(model.temperature(cell, 1e6), 25.0);
             QCOMPARE(model.setPoint(cell), 25.0);
@@ -30,7 +30,7 @@ private slots:
     void cellsFollowWithTheirLag()
     {
         ThermalModel model(1);
-        for (int cell = 0; cell < ThermalModel::cellCount; ++cell) {
+        for (int cell = 0; cell < Channels::count; ++cell) {
             const double lagSec = cell < 7 ? 40.0 : 90.0;
             model.setSetPoint(cell, 125.0, 10.0);
             QCOMPARE(model.temperature(cell, 10.0), 25.0);
@@ -79,7 +79,7 @@ private slots:
     {
         ThermalModel model(1);
         model.setSetPoint(4, 900.0, 0.0);
-        for (int cell = 0; cell < ThermalModel::cellCount; ++cell) {
+        for (int cell = 0; cell < Channels::count; ++cell) {
             QCOMPARE(model.temperature(cell, 100.0) > 26.0, cell == 4);
         }
     }

@@ -2,6 +2,7 @@
 
 #include "temperature/controllermessage.h"
 
+#include "base/channels.h"
 #include "support/testmain.h"
 
 #include <clocale>
@@ -16,6 +17,7 @@ class ControllerMessageTest : public QObject
 private slots:
     void readRequestsOfAllChannels();
     void setPointsOfAllChannels();
+    void aChannelThatIsNotThereGetsNoMessage();
     void setPointFormats_data();
     void setPointFormats();
     void setPointsAreWrittenAsPrintfDoes();
@@ -79,6 +81,15 @@ void ControllerMessageTest::setPointsOfAllChannels()
         QCOMPARE(ControllerMessage::setPoint(channel, 25.0), expected);
     }
     QCOMPARE(ControllerMessage::setPoint(4, 120.0), QByteArray::fromHex("043035025331303132302E3003"));
+}
+
+// Its unit would be ':' or worse, which some other device might take for its own.
+void ControllerMessageTest::aChannelThatIsNotThereGetsNoMessage()
+{
+    for (const int channel : {-1, Channels::count, 255}) {
+        QCOMPARE(ControllerMessage::readRequest(channel), QByteArray());
+        QCOMPARE(ControllerMessage::setPoint(channel, 25.0), QByteArray());
+    }
 }
 
 void ControllerMessageTest::setPointFormats_data()
