@@ -52,8 +52,5 @@ void Conditions::setValue(const QString& key, const QString& value)
 {
     conds[key.simplified()] = value.simplified();
 
-    QFile file(fileName);
-    if (file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text)) {
-        file.write(dump(conds));
-    }
+    appendToFile(fileName, dump(conds));
 }

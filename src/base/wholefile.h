@@ -3,8 +3,14 @@
 #include <QByteArray>
 #include <QString>
 
-/// Replaces the file `name` by `text` (written in text mode: "\n" becomes the platform's line end), or
-/// creates it. False when that was not possible; then an old file is still there as it was. The exception is
-/// a folder in which no file can be made beside the old one: there it is written over directly, and a write
-/// that fails leaves the part that fitted.
+/// Text files that are written whole or not at all. "\n" becomes the platform's line end.
+
+/// Replaces the file `name` by `text`, or creates it: written beside and renamed, so that whatever happens there
+/// is the old file or the new one. In a folder that allows no new file the old one is written over; should that
+/// fail, as on a full disk, the old text is put back. False when the file could not be replaced.
 bool replaceFile(const QString& name, const QByteArray& text);
+
+/// Adds `text` to the end of the file `name`, or creates it. A last line that lacks its line end, as an editor
+/// may leave it, gets it first. False when there was no room for all of it: then the file has its former length
+/// again.
+bool appendToFile(const QString& name, const QByteArray& text);
