@@ -8,7 +8,6 @@
 #include "program/programfile.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileDialog>
 #include <QStandardPaths>
 #include <QTextStream>
@@ -67,18 +66,16 @@ void MBEMain::APSave()
 
 void MBEMain::APLoadProg(QString fname)
 {
-    QFile file(fname);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    const std::optional<QVector<ProgramStep>> steps = ProgramFile::load(fname, progLines.size());
+    if (!steps) {
         NELVO_DEBUG("program") << cannotOpen << fname << bracket;
         return;
     }
-    QTextStream stream(&file);
-    const QVector<ProgramStep> steps = ProgramFile::read(stream, progLines.size());
 
     const HeldUpdates held(*SA01);
     // Rows the file does not fill are cleared. Clearing them all first would show every widget twice.
     for (int k = 0; k < progLines.size(); ++k) {
-        progLines[k]->setContents(k < steps.size() ? steps[k] : ProgramStep());
+        progLines[k]->setContents(k < steps->size() ? steps->at(k) : ProgramStep());
     }
 }
 

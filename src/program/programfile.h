@@ -21,7 +21,12 @@ void write(QTextStream& stream, const QVector<ProgramStep>& steps);
 /// the 20th are ignored.
 std::optional<ProgramStep> stepOf(const QString& line);
 
-/// Reads the steps of the lines that say one, `limit` at the most, and skips the others.
+/// Reads the steps of the lines that say one, `limit` at the most, and skips the others, among them those of
+/// more than 65,536 characters. However long the text, no more of it than such a line is held at a time.
 QVector<ProgramStep> read(QTextStream& stream, int limit);
+
+/// The steps of the file, as read() gives them. Nothing when it cannot be opened or read to the end of what
+/// is needed, when it is no plain file, and when it is larger than 16 MiB: no program is.
+std::optional<QVector<ProgramStep>> load(const QString& fileName, int limit);
 
 } // namespace ProgramFile
