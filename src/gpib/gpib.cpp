@@ -7,11 +7,12 @@
 namespace {
 
 constexpr uint longestText = 1000;
-constexpr qint64 longestLine = 160000;
+constexpr int longestLine = 160000;
 
-// A refused socket keeps the bytes that were queued for it and the notifier that flushes them: it would try
-// to write them without a connection, and print a warning. Aborting drops both. A connection that was up and
-// is lost reports its error before it counts as unconnected, so lines that have arrived are still delivered.
+// Not to report anything, but to keep a refused connection as silent as it has to be: the socket keeps the
+// bytes that were queued for it and the notifier that flushes them, would try to write them without a
+// connection and print a warning. Aborting drops both. A connection that was up and is lost reports its error
+// before it counts as unconnected, so lines that have arrived are still delivered.
 void dropUnsentWhenRefused(QTcpSocket& socket)
 {
     QObject::connect(&socket, &QAbstractSocket::errorOccurred, &socket, [&socket] {
@@ -23,7 +24,10 @@ void dropUnsentWhenRefused(QTcpSocket& socket)
 
 } // namespace
 
-GPIB::GPIB() = default;
+GPIB::GPIB()
+    : incoming(longestLine)
+{
+}
 
 GPIB::~GPIB()
 {
@@ -42,15 +46,17 @@ void GPIB::connectAdapter(const QString& host, int port)
         }
         delete socket;
         socket = nullptr;
+        incoming.clear();
     }
     socket = new QTcpSocket;
     connect(socket, SIGNAL(readyRead()), this, SLOT(rcvMsg()), Qt::UniqueConnection);
     dropUnsentWhenRefused(*socket);
     socket->connectToHost(
         host, static_cast<quint16>(port), QIODevice::ReadWrite, QAbstractSocket::AnyIPProtocol);
-    // A shutter command must not wait for the acknowledgement of what was sent before it. Only an address
-    // written in numbers has its socket at this point; a host name is still being looked up.
-    socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+    // A shutter command must not wait for the acknowledgement of what was sent before it. Not before the
+    // connection is up: while a host name is being looked up there is no socket yet to set it for.
+    connect(socket, &QAbstractSocket::connected, socket,
+        [this] { socket->setSocketOption(QAbstractSocket::LowDelayOption, 1); });
     socket->setTextModeEnabled(false);
     setEoi(-1);
 }
@@ -72,6 +78,9 @@ void GPIB::sndMsg(const char* msg)
 
 void GPIB::sndRaw(const char* data, int len)
 {
+    if (len < 1) {
+        return; // QByteArray would take a negative length for "up to the NUL"
+    }
     write(QByteArray(data, len));
 }
 
@@ -127,14 +136,14 @@ void GPIB::setAuto(int mode)
 
 qint64 GPIB::bytesAvailable()
 {
-    return socket == nullptr ? 0 : socket->bytesAvailable();
+    return socket == nullptr ? 0 : incoming.size() + socket->bytesAvailable();
 }
 
 void GPIB::rcvMsg()
 {
-    while (socket->canReadLine()) {
-        // readLine() counts a terminating NUL that it does not return.
-        rbuf = socket->readLine(longestLine + 1).simplified();
+    incoming.append(socket->readAll());
+    while (const std::optional<QByteArray> line = incoming.takeLine()) {
+        rbuf = line->simplified();
         replyPending = false;
         emit dataReady(rbuf.size(), rbuf);
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "gpib/linebuffer.h"
+
 #include <QByteArray>
 #include <QObject>
 
@@ -29,7 +31,7 @@ public:
     /// Sends the first 1000 characters of the NUL-terminated `msg` and one LF.
     void sndMsg(const char* msg);
 
-    /// Sends exactly `len` bytes of `data`, any bytes; nothing is added.
+    /// Sends exactly `len` bytes of `data`, any bytes; nothing is added. Below 1 nothing is sent.
     void sndRaw(const char* data, int len);
 
     /// Selects the instrument at `addr` for what follows ("++addr %d\n", only when it changes; a negative
@@ -70,6 +72,7 @@ private:
     void write(const QByteArray& bytes);
 
     QTcpSocket* socket = nullptr;
+    LineBuffer incoming; // what of the socket's bytes is no complete line yet
     QByteArray rbuf;
     bool replyPending = false;
     int currentAddress = -1;

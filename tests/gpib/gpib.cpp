@@ -240,7 +240,9 @@ void GpibTest::rawBytesArriveAsTheyAre()
 
     gpib->sndRaw("abcdef", 3);
     gpib->sndRaw("abcdef", 0);
+    gpib->sndRaw("abcdef", -1);
     QVERIFY(adapter->expect("abc"));
+    QVERIFY(adapter->expectNothing());
 }
 
 NELVO_TEST_MAIN(GpibTest)
