@@ -3,6 +3,7 @@
 #include "base/channels.h"
 #include "program/blockcursor.h"
 #include "temperature/polling.h"
+#include "temperature/ramp.h"
 #include "ui_mainwindow.h"
 
 #include <QByteArray>
@@ -90,6 +91,9 @@ private:
     /// Writes the entries (deg C, minutes) into the panel and starts a ramp from them.
     void restartRamp(int ch, const QString& targetDegC, const QString& durationMin);
     void stopCell(int ch);
+    QString refusalText(Ramp::Refusal refusal, int ch, double durationMin) const;
+    double targetOf(int ch);
+    void warn(const QString& text);
     bool anyCellRunning() const;
     bool rampStep(int ch);
     void showElapsed();
@@ -144,12 +148,7 @@ private:
     QList<QToolButton*> runButtons;
     QList<QLabel*> setPointLabels;
     QList<QLabel*> elapsedLabels;
-    QVector<bool> cellRunning;
-    QVector<qint64> rampStartMs; // ms since the epoch
-    QVector<qint64> rampNextMs; // ms since the epoch: a set point is due after it
-    QVector<double> rampRate; // deg C per minute, negative when falling
-    QVector<double> rampSetPoint; // deg C, the next one to send
-
+    QVector<Ramp::Run> ramps; // cellRunning, rampStartMs, rampNextMs, rampRate, rampSetPoint
     QTimer* watchTimer = nullptr;
     Polling polling; // watchState, tickCount, sentTick, lastRampTick, pollCh, rampCh, tmpReply
 

@@ -1,6 +1,7 @@
 #include "program/aline.h"
 
 #include "base/number.h"
+#include "base/numberentry.h"
 #include "base/panelstyle.h"
 
 #include <QGridLayout>
@@ -27,6 +28,13 @@ QLineEdit* newEdit(const QString& text, QWidget* parent)
     return edit;
 }
 
+QLineEdit* newNumberEdit(const QString& text, QWidget* parent)
+{
+    QLineEdit* edit = newEdit(text, parent);
+    makeNumberEntry(*edit);
+    return edit;
+}
+
 } // namespace
 
 aLine::aLine(QWidget* widgetParent)
@@ -50,11 +58,11 @@ aLine::aLine(QWidget* widgetParent)
         showShutter(n);
     }
     for (int n = 0; n < Channels::substrateCount; ++n) {
-        substrateEdits.append(newEdit(QStringLiteral("0"), widgetParent));
+        substrateEdits.append(newNumberEdit(QStringLiteral("0"), widgetParent));
     }
-    timeEdit = newEdit(QStringLiteral("0"), widgetParent);
+    timeEdit = newNumberEdit(QStringLiteral("0"), widgetParent);
     groupEdit = newEdit(QString(), widgetParent);
-    timesEdit = newEdit(QStringLiteral("1"), widgetParent);
+    timesEdit = newNumberEdit(QStringLiteral("1"), widgetParent);
 }
 
 aLine::~aLine()
@@ -86,7 +94,7 @@ void aLine::buildMenu()
 void aLine::buildCell(QWidget* widgetParent)
 {
     auto* cell = new QWidget(widgetParent);
-    QLineEdit* edit = newEdit(QStringLiteral("0"), cell);
+    QLineEdit* edit = newNumberEdit(QStringLiteral("0"), cell);
     edit->setMinimumWidth(50);
     auto* button = new QToolButton(cell);
     button->setMaximumHeight(20);

@@ -1,6 +1,7 @@
 #include "temperature/controllermessage.h"
 
 #include "base/channels.h"
+#include "base/number.h"
 
 #include <cmath>
 #include <iomanip>
@@ -85,7 +86,7 @@ QString shownValue(const QByteArray& reply)
     if (reply == errorReply) {
         return unknownValue();
     }
-    return QString::number(reply.mid(valueStart, valueLength).toDouble(), 'g', 6);
+    return QString::number(readNumber(reply.mid(valueStart, valueLength)).value_or(0.0), 'g', 6);
 }
 
 QString unknownValue()

@@ -37,7 +37,8 @@ bool appendBlockCheck(char* message, int size);
 bool isReply(int bytes, const QByteArray& line);
 
 /// The measured value of an accepted reply, in deg C, as the panel shows it: six significant digits at the
-/// most, no trailing zeros; "----.-" for an error reply; 0 for a value that is not a number.
+/// most, no trailing zeros; "----.-" for an error reply; 0 for a value that is no finite
+/// number.
 QString shownValue(const QByteArray& reply);
 
 /// What the panel shows for a temperature that is not known.

@@ -3,6 +3,7 @@
 #include "app/conditions.h"
 #include "app/mbemain.h"
 #include "base/numberedwidgets.h"
+#include "base/numberentry.h"
 #include "base/panelstyle.h"
 #include "gpib/gpib.h"
 
@@ -30,14 +31,12 @@ void MBEMain::setupTemperature()
     }
 
     cellActive.fill(true, Channels::count);
-    cellRunning.fill(false, Channels::count);
-    rampNextMs.fill(0, Channels::count);
-    rampStartMs.fill(0, Channels::count);
-    rampRate.fill(0.0, Channels::count);
-    rampSetPoint.fill(0.0, Channels::count);
+    ramps.resize(Channels::count);
     for (int n = 0; n < Channels::count; ++n) {
         showState(*runButtons[n], false, runText);
         cellLabels[n]->setText(cellNames[n]);
+        makeNumberEntry(*targetEdits[n]);
+        makeNumberEntry(*durationEdits[n]);
         connect(activeButtons[n], SIGNAL(clicked()), this, SLOT(ActivateCell()), Qt::UniqueConnection);
         connect(runButtons[n], SIGNAL(clicked()), this, SLOT(RunStopTControll()), Qt::UniqueConnection);
         cellActive[n] = conditions->value(activeKey(n)) != QLatin1String("InActive");

@@ -1,16 +1,12 @@
 // The cells' ramps: started and stopped on the panel, stepped by the polling, a set point a minute.
 
 #include "app/mbemain.h"
+#include "base/number.h"
 #include "base/panelstyle.h"
 #include "base/wallclock.h"
 #include "gpib/gpib.h"
-#include "temperature/ramp.h"
 
-namespace {
-
-constexpr int warningMs = 2000;
-
-} // namespace
+#include <algorithm>
 
 void MBEMain::RunStopTControll()
 {
@@ -23,38 +19,53 @@ void MBEMain::RunStopTControll()
 
 void MBEMain::startStopCell(int ch)
 {
-    if (cellRunning[ch]) {
+    if (ramps[ch].cellRunning) {
         stopCell(ch);
         return;
     }
-    const double current = currentLabels[ch]->text().toDouble();
-    const double target = targetEdits[ch]->text().toDouble();
-    const double duration = durationEdits[ch]->text().toDouble();
-    const Ramp::Plan plan = Ramp::plan(current, target, duration, riseRateLimits[ch]);
-    switch (plan.refusal) {
-    case Ramp::Refusal::Duration:
-        statusBar()->showMessage(tr("Setting time [%1] for the cell [%2:%3] is not correct.")
-                                     .arg(duration)
-                                     .arg(ch)
-                                     .arg(cellNames[ch]),
-            warningMs);
+    // A temperature that is not known counts as 0, and so does what is no number.
+    const double current = readNumber(currentLabels[ch]->text()).value_or(0.0);
+    const double duration = readNumber(durationEdits[ch]->text()).value_or(0.0);
+    const Ramp::Plan plan = Ramp::plan(current, targetOf(ch), duration, riseRateLimits[ch]);
+    if (plan.refusal != Ramp::Refusal::None) {
+        warn(refusalText(plan.refusal, ch, duration));
+        stopCell(ch); // a program's step may have refused to replace a ramp by this one
         return;
-    case Ramp::Refusal::RiseTooFast:
-        statusBar()->showMessage(
-            tr("The temperature rise up rate should be less than %1 deg-C per min for the cell [%2:%3].")
-                .arg(riseRateLimits[ch])
-                .arg(ch)
-                .arg(cellNames[ch]),
-            warningMs);
-        return;
-    case Ramp::Refusal::None:
-        break;
     }
-    rampStartMs[ch] = rampNextMs[ch] = WallClock::nowMs();
-    rampRate[ch] = plan.rate;
-    rampSetPoint[ch] = current + plan.rate;
-    cellRunning[ch] = true;
+    ramps[ch].start(plan, WallClock::nowMs());
     showState(*runButtons[ch], true, stopText);
+}
+
+QString MBEMain::refusalText(Ramp::Refusal refusal, int ch, double durationMin) const
+{
+    if (refusal == Ramp::Refusal::Duration) {
+        return tr("Setting time [%1] for the cell [%2:%3] is not correct.")
+            .arg(durationMin)
+            .arg(ch)
+            .arg(cellNames[ch]);
+    }
+    return tr("The temperature rise up rate should be less than %1 deg-C per min for the cell [%2:%3].")
+        .arg(riseRateLimits[ch])
+        .arg(ch)
+        .arg(cellNames[ch]);
+}
+
+// Read anew at every step: the operator may edit the target while the ramp runs.
+double MBEMain::targetOf(int ch)
+{
+    const QString text = targetEdits[ch]->text();
+    const std::optional<double> target = readNumber(text);
+    if (!target) {
+        warn(tr("The target [%1] of the cell [%2:%3] is not a number and counts as 0.")
+                 .arg(text, QString::number(ch), cellNames[ch]));
+    }
+    return target.value_or(0.0);
+}
+
+void MBEMain::warn(const QString& text)
+{
+    constexpr int warningMs = 2000;
+    statusBar()->showMessage(text, warningMs);
 }
 
 // A ramp that still runs is replaced, whoever started it.
@@ -62,53 +73,48 @@ void MBEMain::restartRamp(int ch, const QString& targetDegC, const QString& dura
 {
     targetEdits[ch]->setText(targetDegC);
     durationEdits[ch]->setText(durationMin);
-    cellRunning[ch] = false;
+    ramps[ch].cellRunning = false;
     startStopCell(ch);
 }
 
 void MBEMain::stopCell(int ch)
 {
-    cellRunning[ch] = false;
+    ramps[ch].cellRunning = false;
     showState(*runButtons[ch], false, runText);
 }
 
 bool MBEMain::anyCellRunning() const
 {
-    return cellRunning.contains(true);
+    return std::any_of(ramps.begin(), ramps.end(), [](const Ramp::Run& ramp) { return ramp.cellRunning; });
 }
 
 bool MBEMain::rampStep(int ch)
 {
-    if (!cellRunning[ch]) {
+    Ramp::Run& ramp = ramps[ch];
+    if (!ramp.cellRunning) {
         return true;
     }
     if (gpib->isReplyPending()) {
         return false;
     }
-    if (WallClock::nowMs() <= rampNextMs[ch]) {
+    if (!ramp.isDue(WallClock::nowMs())) {
         return true;
     }
-    // Read anew at every step: the operator may edit the target while the ramp runs.
-    const double target = targetEdits[ch]->text().toDouble();
-    const double rate = rampRate[ch];
-    const double setPoint = Ramp::limited(rampSetPoint[ch], target, rate);
+    const double setPoint = ramp.step(targetOf(ch));
     setTMP(static_cast<unsigned char>(ch), setPoint);
     setPointLabels[ch]->setText(QString::number(setPoint, 'g', 6));
-    if (Ramp::reaches(setPoint, target, rate)) {
+    if (!ramp.cellRunning) {
         stopCell(ch);
-        return true;
     }
-    rampSetPoint[ch] += rate;
-    rampNextMs[ch] += Ramp::stepMs;
     return true;
 }
 
 void MBEMain::showElapsed()
 {
     const qint64 now = WallClock::nowMs();
-    for (int n = 0; n < cellRunning.size(); ++n) {
-        if (cellRunning[n]) {
-            const double minutes = static_cast<double>(now - rampStartMs[n]) / 1000.0 / 60.0;
+    for (int n = 0; n < Channels::count; ++n) {
+        if (ramps[n].cellRunning) {
+            const double minutes = static_cast<double>(now - ramps[n].rampStartMs) / 1000.0 / 60.0;
             elapsedLabels[n]->setText(QString::asprintf("%7.2f", minutes));
         }
     }

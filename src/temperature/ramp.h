@@ -14,18 +14,36 @@ enum class Refusal { None, Duration, RiseTooFast };
 struct Plan
 {
     Refusal refusal = Refusal::None;
-    double rate = 0.0; ///< deg C per minute, negative when falling; 0 when refused for the duration
+    double currentDegC = 0.0; ///< where it begins
+    double rate = 0.0; ///< deg C per minute, negative when falling
 };
 
 /// Plans a ramp from `currentDegC` to `targetDegC` in `durationMin` minutes. A duration that is not above 0
-/// is refused, and so is a rise faster than |`riseLimit`| deg C per minute; a fall may be of any speed.
+/// is refused, and so is one so short that rate or set point would be no finite number; and a rise faster
+/// than
+/// |`riseLimit`| deg C per minute. A fall may be of any speed.
 Plan plan(double currentDegC, double targetDegC, double durationMin, double riseLimit);
 
-/// The set point to send when `setPointDegC` is due: never beyond the target. A rate of 0 has no direction
-/// and is not limited.
-double limited(double setPointDegC, double targetDegC, double rate);
+/// A cell's ramp on its way. Times are in ms since the epoch.
+struct Run
+{
+    bool cellRunning = false;
+    qint64 rampStartMs = 0;
+    qint64 rampNextMs = 0; ///< a set point is due after it
+    double rampRate = 0.0; ///< deg C per minute, negative when falling
+    double rampSetPoint = 0.0; ///< deg C, the next one to send
 
-/// Whether a ramp is over once `setPointDegC` has been sent. Never, with a rate of 0.
-bool reaches(double setPointDegC, double targetDegC, double rate);
+    /// Starts as planned. The first set point, one minute's rise or fall away from where the ramp begins, is
+    /// due at once: the ramp runs a minute ahead of a straight line. The others follow on a grid of minutes
+    /// counted from `nowMs`; those that are late are not left out.
+    void start(const Plan& plan, qint64 nowMs);
+
+    bool isDue(qint64 nowMs) const { return cellRunning && nowMs > rampNextMs; }
+
+    /// Takes the step that is due and gives the set point to send, never beyond `targetDegC`, which may have
+    /// changed since the last step. Having sent the target the ramp is over; with a rate of 0, which has no
+    /// direction, it never is.
+    double step(double targetDegC);
+};
 
 } // namespace Ramp

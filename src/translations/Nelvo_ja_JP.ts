@@ -122,6 +122,10 @@
         <source>Times</source>
         <translation>回数</translation>
     </message>
+    <message>
+        <source>The target [%1] of the cell [%2:%3] is not a number and counts as 0.</source>
+        <translation>セル [%2:%3] の目標値 [%1] は数値ではないため、0 とみなします。</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

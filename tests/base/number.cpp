@@ -31,6 +31,7 @@ void NumberTest::texts_data()
     row("a word", "hot", std::nullopt);
     row("a comma", "12,5", std::nullopt);
     row("a unit", "850 C", std::nullopt);
+    row("full-width digits", "９５０", std::nullopt);
     row("hexadecimal", "0x10", std::nullopt);
     row("inf", "inf", std::nullopt);
     row("minus inf", "-inf", std::nullopt);
@@ -44,6 +45,7 @@ void NumberTest::texts()
     QFETCH(QString, text);
     QFETCH(std::optional<double>, number);
     QVERIFY(readNumber(text) == number);
+    QVERIFY(readNumber(text.toUtf8()) == number);
 }
 
 NELVO_TEST_MAIN(NumberTest)

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 Q_DECLARE_METATYPE(Ramp::Refusal)
 
@@ -20,23 +21,34 @@ private slots:
     void setPointSeries();
     void aStepIsAMinute();
     void everyRampEndsOnItsTarget();
+    void theFirstStepIsDueAtOnceAndTheOthersByTheMinute();
+    void aRampThatIsOverIsNotDue();
+    void aTargetBehindTheSetPointEndsTheRampAtOnce_data();
     void aTargetBehindTheSetPointEndsTheRampAtOnce();
     void withoutARateThereIsNoLimitAndNoEnd();
 };
 
 namespace {
 
+constexpr qint64 startMs = 1700000000000;
+
+Ramp::Run started(double current, double rate)
+{
+    Ramp::Plan plan;
+    plan.currentDegC = current;
+    plan.rate = rate;
+    Ramp::Run run;
+    run.start(plan, startMs);
+    return run;
+}
+
 // The set points of a whole ramp, as the station sends them; at most `most`.
 QVector<double> setPoints(double current, double target, double rate, int most)
 {
+    Ramp::Run run = started(current, rate);
     QVector<double> sent;
-    double next = current + rate;
-    while (sent.size() < most) {
-        sent.append(Ramp::limited(next, target, rate));
-        if (Ramp::reaches(sent.last(), target, rate)) {
-            break;
-        }
-        next += rate;
+    while (run.cellRunning && sent.size() < most) {
+        sent.append(run.step(target));
     }
     return sent;
 }
@@ -60,6 +72,16 @@ void RampTest::plans_data()
     QTest::newRow("less than a minute") << 100.0 << 110.0 << 0.5 << none << 20.0;
     QTest::newRow("no duration") << 100.0 << 200.0 << 0.0 << Ramp::Refusal::Duration << 0.0;
     QTest::newRow("negative duration") << 100.0 << 200.0 << -1.0 << Ramp::Refusal::Duration << 0.0;
+    const double notANumber = std::numeric_limits<double>::quiet_NaN();
+    const double infinite = std::numeric_limits<double>::infinity();
+    QTest::newRow("the duration is no number")
+        << 100.0 << 200.0 << notANumber << Ramp::Refusal::Duration << 0.0;
+    QTest::newRow("a fall beyond all numbers")
+        << 1e9 << -1e9 << 1e-300 << Ramp::Refusal::Duration << -infinite;
+    QTest::newRow("a rise beyond all numbers")
+        << -1e9 << 1e9 << 1e-300 << Ramp::Refusal::RiseTooFast << infinite;
+    QTest::newRow("a set point beyond all numbers")
+        << -1e308 << -1.7e308 << 0.5 << Ramp::Refusal::Duration << -1.4e308;
     QTest::newRow("the duration is looked at first") << 0.0 << 1e6 << 0.0 << Ramp::Refusal::Duration << 0.0;
 }
 
@@ -74,6 +96,7 @@ void RampTest::plans()
         const Ramp::Plan plan = Ramp::plan(current, target, duration, limit);
         QCOMPARE(plan.refusal, refusal);
         QCOMPARE(plan.rate, rate);
+        QCOMPARE(plan.currentDegC, current);
     }
 }
 
@@ -131,22 +154,64 @@ void RampTest::everyRampEndsOnItsTarget()
     QVERIFY(ramps > 2000);
 }
 
+void RampTest::theFirstStepIsDueAtOnceAndTheOthersByTheMinute()
+{
+    Ramp::Run run = started(100.0, 20.0);
+    QVERIFY(run.cellRunning);
+    QCOMPARE(run.rampStartMs, startMs);
+    QVERIFY(!run.isDue(startMs));
+    QVERIFY(run.isDue(startMs + 1));
+    run.step(200.0);
+    QVERIFY(!run.isDue(startMs + Ramp::stepMs));
+    QVERIFY(run.isDue(startMs + Ramp::stepMs + 1));
+    // Late steps stay on the grid: two are due now, and a third is not.
+    const qint64 late = startMs + 2 * Ramp::stepMs + 500;
+    run.step(200.0);
+    QVERIFY(run.isDue(late));
+    run.step(200.0);
+    QVERIFY(!run.isDue(late));
+    QCOMPARE(run.rampStartMs, startMs);
+}
+
+void RampTest::aRampThatIsOverIsNotDue()
+{
+    Ramp::Run run = started(100.0, 100.0);
+    QCOMPARE(run.step(200.0), 200.0);
+    QVERIFY(!run.cellRunning);
+    QVERIFY(!run.isDue(startMs + 100 * Ramp::stepMs));
+    QVERIFY(!Ramp::Run().isDue(startMs));
+}
+
+void RampTest::aTargetBehindTheSetPointEndsTheRampAtOnce_data()
+{
+    QTest::addColumn<double>("rate");
+    QTest::addColumn<double>("target");
+    QTest::addColumn<double>("sent");
+    QTest::addColumn<bool>("isOver");
+    QTest::newRow("rising past it") << 20.0 << 110.0 << 110.0 << true;
+    QTest::newRow("rising onto it") << 20.0 << 120.0 << 120.0 << true;
+    QTest::newRow("rising short of it") << 20.0 << 120.1 << 120.0 << false;
+    QTest::newRow("falling past it") << -20.0 << 90.0 << 90.0 << true;
+    QTest::newRow("falling onto it") << -20.0 << 80.0 << 80.0 << true;
+    QTest::newRow("falling short of it") << -20.0 << 79.9 << 80.0 << false;
+}
+
 void RampTest::aTargetBehindTheSetPointEndsTheRampAtOnce()
 {
-    QCOMPARE(Ramp::limited(160.0, 150.0, 20.0), 150.0);
-    QVERIFY(Ramp::reaches(150.0, 150.0, 20.0));
-    QCOMPARE(Ramp::limited(140.0, 150.0, -20.0), 150.0);
-    QVERIFY(Ramp::reaches(150.0, 150.0, -20.0));
-    QVERIFY(!Ramp::reaches(149.9, 150.0, 20.0));
-    QVERIFY(!Ramp::reaches(150.1, 150.0, -20.0));
+    QFETCH(double, rate);
+    QFETCH(double, target);
+    QFETCH(double, sent);
+    QFETCH(bool, isOver);
+    Ramp::Run run = started(100.0, rate);
+    QCOMPARE(run.step(target), sent);
+    QCOMPARE(run.cellRunning, !isOver);
 }
 
 void RampTest::withoutARateThereIsNoLimitAndNoEnd()
 {
-    QCOMPARE(Ramp::limited(100.0, 50.0, 0.0), 100.0);
-    QCOMPARE(Ramp::limited(100.0, 150.0, 0.0), 100.0);
-    QVERIFY(!Ramp::reaches(100.0, 100.0, 0.0));
-    QCOMPARE(setPoints(100.0, 100.0, 0.0, 50), QVector<double>(50, 100.0));
+    for (const double target : {50.0, 100.0, 150.0}) {
+        QCOMPARE(setPoints(100.0, target, 0.0, 50), QVector<double>(50, 100.0));
+    }
 }
 
 NELVO_TEST_MAIN(RampTest)
