@@ -1,23 +1,21 @@
 #pragma once
 
-#include <QDateTime>
+#include <QtGlobal>
 
-/// The one place that reads the wall clock. Everything that needs "now" asks nowMs(); the shipped program
-/// never changes the source, so it always reads the system's clock. Tests and soaks put their own source in
-/// place and drive hours in milliseconds.
+/// The one clock. Everything that needs "now" asks nowMs(); the shipped program never changes the source. Tests
+/// and soaks put their own source in place and drive hours in milliseconds.
 namespace WallClock {
 
 /// Gives the time in milliseconds since the epoch (1970-01-01T00:00:00 UTC).
 using Source = qint64 (*)();
 
-inline qint64 systemNowMs()
-{
-    return QDateTime::currentMSecsSinceEpoch();
-}
+/// The system's time at the program's start, carried on by a clock that nobody can set and that stands still while
+/// the machine sleeps: neither a stepped system clock nor a nap moves a set point or a program's step.
+qint64 carriedOnMs();
 
-inline Source source = &systemNowMs;
+extern Source source;
 
-/// Now, in milliseconds since the epoch. May step back when the system's clock is corrected.
+/// Now, in milliseconds since the epoch; never steps back.
 inline qint64 nowMs()
 {
     return source();

@@ -4,6 +4,12 @@
 #include <QEvent>
 #include <QLabel>
 
+namespace {
+
+constexpr int figureCharacters = 10;
+
+} // namespace
+
 LatePolish::LatePolish()
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::PolishRequest);
@@ -39,14 +45,19 @@ HeldUpdates::~HeldUpdates()
     whole.update();
 }
 
+void giveRoomForFigures(QLabel& label)
+{
+    const QString shown = label.text();
+    label.setText(QString(figureCharacters, QLatin1Char('0')));
+    label.setFixedSize(label.sizeHint());
+    label.setText(shown);
+}
+
 void showFigure(QLabel& label, const QString& text)
 {
     if (label.text() == text) {
         return;
     }
     label.setText(text);
-    const QSize needed = label.sizeHint();
-    if (label.maximumWidth() < needed.width() || label.minimumWidth() != label.maximumWidth()) {
-        label.setFixedSize(needed);
-    }
+    label.setToolTip(text.size() > figureCharacters ? text : QString());
 }

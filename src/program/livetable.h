@@ -38,7 +38,9 @@ private:
     QList<QWidget*> held;
 };
 
-/// Shows `text` on a label beside the table that changes ten times a second. It must not change its size with
-/// each text: the tab around it would be laid out and painted anew, the table with it. The label keeps a size
-/// and only grows, for a text that has no room.
+/// A label beside the table that shows a figure ten times a second must not change its size with each: the tab
+/// around it would be laid out and painted anew, the table with it. It has room for ten characters, for good.
+void giveRoomForFigures(QLabel& label);
+
+/// Shows a figure on a label with such room. A longer one is cut off on the right; the tool tip has the whole.
 void showFigure(QLabel& label, const QString& text);

@@ -34,18 +34,19 @@ QFileDialog* newDialog(const QString& name, QFileDialog::AcceptMode mode)
     return dialog;
 }
 
-// The folder is made when it is first needed; a dialog cannot enter it before.
-void showInFolder(QFileDialog& dialog)
+// A dialog that is open already comes to the front. The folder is the one in which the operator left it.
+void showOrRaise(QFileDialog& dialog)
 {
-    QDir().mkpath(programFolder());
-    dialog.setDirectory(programFolder());
     dialog.show();
+    dialog.raise();
+    dialog.activateWindow();
 }
 
 } // namespace
 
 void MBEMain::setupProgramDialogs()
 {
+    QDir().mkpath(programFolder()); // a dialog cannot enter it before
     loadDialog = newDialog(QStringLiteral("loadDialog"), QFileDialog::AcceptOpen);
     saveDialog = newDialog(QStringLiteral("saveDialog"), QFileDialog::AcceptSave);
     // Without it a name typed without ".dat" would not be offered for loading again.
@@ -56,12 +57,12 @@ void MBEMain::setupProgramDialogs()
 
 void MBEMain::APLoad()
 {
-    showInFolder(*loadDialog);
+    showOrRaise(*loadDialog);
 }
 
 void MBEMain::APSave()
 {
-    showInFolder(*saveDialog);
+    showOrRaise(*saveDialog);
 }
 
 void MBEMain::APLoadProg(QString fname)

@@ -50,6 +50,9 @@ void MBEMain::setupProgramBar()
     progPauseText = tr("Pause");
     showState(*ProgRun, false, progRunText);
     showState(*ProgPause, false, progPauseText);
+    for (QLabel* figure : {DispTime01, DispTime02, DispTTime01, DispTTime02, DispCount01, DispCount02}) {
+        giveRoomForFigures(*figure);
+    }
     progRunning = false;
     progPaused = false;
 

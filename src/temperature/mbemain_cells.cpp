@@ -41,6 +41,9 @@ void MBEMain::setupTemperature()
         connect(runButtons[n], SIGNAL(clicked()), this, SLOT(RunStopTControll()), Qt::UniqueConnection);
         cellActive[n] = conditions->value(activeKey(n)) != QLatin1String("InActive");
         showCellActive(n);
+        // Their style sheets have to be there: they count for a button's size.
+        keepRoomFor(*activeButtons[n], {activeText, notInUseText});
+        keepRoomFor(*runButtons[n], {runText, stopText});
     }
 
     watchTimer = new QTimer;

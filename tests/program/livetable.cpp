@@ -16,7 +16,9 @@ private slots:
     void onlyTheTablesPolishWaits();
     void heldUpdatesPaintOnce();
     void widgetsThatHeldUpdatesThemselvesStayHeld();
-    void aFigureKeepsItsSizeAndGrowsForLongerOnes();
+    void aFigureKeepsItsSize();
+    void tenCharactersHaveRoom();
+    void aLongerFigureStandsInTheToolTip();
 };
 
 namespace {
@@ -98,19 +100,39 @@ void LiveTableTest::widgetsThatHeldUpdatesThemselvesStayHeld()
     QVERIFY(!frozen.updatesEnabled());
 }
 
-void LiveTableTest::aFigureKeepsItsSizeAndGrowsForLongerOnes()
+void LiveTableTest::aFigureKeepsItsSize()
+{
+    QLabel label(QStringLiteral("0"));
+    giveRoomForFigures(label);
+    QCOMPARE(label.text(), QStringLiteral("0"));
+    const QSize size = label.minimumSize();
+    QCOMPARE(label.maximumSize(), size);
+    for (const QString& text : {QStringLiteral("  12.5"), QStringLiteral("1234567890"), QString(300, u'9')}) {
+        showFigure(label, text);
+        QCOMPARE(label.text(), text);
+        QCOMPARE(label.minimumSize(), size);
+        QCOMPARE(label.maximumSize(), size);
+    }
+}
+
+void LiveTableTest::tenCharactersHaveRoom()
 {
     QLabel label;
-    showFigure(label, QStringLiteral("  12.5"));
-    const QSize size = label.sizeHint();
-    QCOMPARE(label.minimumSize(), size);
-    QCOMPARE(label.maximumSize(), size);
-    showFigure(label, QStringLiteral("1"));
-    QCOMPARE(label.text(), QStringLiteral("1"));
-    QCOMPARE(label.maximumSize(), size);
-    showFigure(label, QStringLiteral("123456.5"));
-    QVERIFY(label.minimumWidth() > size.width());
-    QCOMPARE(label.minimumSize(), label.sizeHint());
+    giveRoomForFigures(label);
+    showFigure(label, QStringLiteral("12345678.9"));
+    QVERIFY(label.sizeHint().width() <= label.maximumWidth());
+    QVERIFY(label.sizeHint().height() <= label.maximumHeight());
+    QVERIFY(label.toolTip().isEmpty());
+}
+
+void LiveTableTest::aLongerFigureStandsInTheToolTip()
+{
+    QLabel label;
+    giveRoomForFigures(label);
+    showFigure(label, QStringLiteral("123456789.5"));
+    QCOMPARE(label.toolTip(), QStringLiteral("123456789.5"));
+    showFigure(label, QStringLiteral("   1.5"));
+    QVERIFY(label.toolTip().isEmpty());
 }
 
 NELVO_TEST_MAIN(LiveTableTest)

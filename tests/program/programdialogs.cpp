@@ -36,6 +36,8 @@ private slots:
     void dialogsAreReadyAndHidden();
     void buttonsShowTheDialogsInTheirFolder();
     void dialogsDriveSaveAndLoad();
+    void theOperatorsFolderStays();
+    void aPressWhileADialogIsOpenRaisesIt();
     void aNameWithoutEndingIsSavedWhereItIsFoundAgain();
     void anOpenDialogDoesNotOutliveTheWindow();
 
@@ -47,11 +49,6 @@ private:
 
 void TestProgramDialogs::initTestCase()
 {
-    // The desktop is not among the places that the tests' standard paths move.
-    qputenv("HOME", QDir::currentPath().toLocal8Bit());
-    if (!folder().startsWith(QDir::currentPath())) {
-        QSKIP("the tests cannot have a desktop of their own");
-    }
     shared = std::make_unique<ProgramWindow>();
 }
 
@@ -76,7 +73,6 @@ void TestProgramDialogs::dialogsAreReadyAndHidden()
         QVERIFY(!dialog->isModal());
         QVERIFY(!dialog->isVisible());
     }
-    QVERIFY(!QDir(folder()).exists()); // made when first needed
 }
 
 void TestProgramDialogs::buttonsShowTheDialogsInTheirFolder()
@@ -109,6 +105,36 @@ void TestProgramDialogs::dialogsDriveSaveAndLoad()
     choose("loadDialog", fname);
     QCOMPARE(table().time(0)->text(), QStringLiteral("33"));
     QCOMPARE(table().group(0)->text(), QStringLiteral("G"));
+}
+
+void TestProgramDialogs::theOperatorsFolderStays()
+{
+    QVERIFY(QDir(folder()).mkpath(QStringLiteral("November")));
+    for (const char* name : {"saveDialog", "loadDialog"}) {
+        const char* button = qstrcmp(name, "saveDialog") == 0 ? "ProgSave" : "ProgLoad";
+        QFileDialog* dialog = table().dialog(name);
+        table().button(button)->click();
+        dialog->setDirectory(folder() + QStringLiteral("/November"));
+        dialog->close();
+        table().button(button)->click();
+        QCOMPARE(dialog->directory().dirName(), QStringLiteral("November"));
+        dialog->close();
+        dialog->setDirectory(folder());
+    }
+}
+
+void TestProgramDialogs::aPressWhileADialogIsOpenRaisesIt()
+{
+    table().button("ProgLoad")->click();
+    QFileDialog* dialog = table().dialog("loadDialog");
+    QTRY_VERIFY(dialog->isActiveWindow());
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QTRY_VERIFY(other.isActiveWindow());
+    table().button("ProgLoad")->click();
+    QTRY_VERIFY(dialog->isActiveWindow());
+    dialog->close();
 }
 
 void TestProgramDialogs::aNameWithoutEndingIsSavedWhereItIsFoundAgain()

@@ -45,7 +45,7 @@ DrivenClock::DrivenClock(qint64 nowMs)
 
 DrivenClock::~DrivenClock()
 {
-    WallClock::source = &WallClock::systemNowMs;
+    WallClock::source = &WallClock::carriedOnMs;
 }
 
 void DrivenClock::advance(qint64 ms)

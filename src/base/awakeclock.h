@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QtGlobal>
+
+/// Milliseconds since some moment before the program's start, by a clock that nobody can set and that stands still
+/// while the machine sleeps.
+qint64 awakeMs();
