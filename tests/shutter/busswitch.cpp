@@ -52,15 +52,15 @@ private slots:
     void shuttersAfterTemperatures()
     {
         answerRead(0);
-        station->click("CS01"_s);
+        station->click(cell("CS", 0));
         QVERIFY(station->adapter.expect(Wire::toShutters + Wire::shutters(0x01)));
     }
 
     void laterShutterCommandsNeedNoSwitch()
     {
         answerRead(0);
-        station->click("CS01"_s);
-        station->click("CS02"_s);
+        station->click(cell("CS", 0));
+        station->click(cell("CS", 1));
         station->click("AllCloseB"_s);
         QVERIFY(station->adapter.expect(
             Wire::toShutters + Wire::shutters(0x01) + Wire::shutters(0x03) + Wire::shutters(0x00)));
@@ -69,7 +69,7 @@ private slots:
     void temperaturesAfterShutters()
     {
         answerRead(0);
-        station->click("CS01"_s);
+        station->click(cell("CS", 0));
         station->tick();
         QVERIFY(station->adapter.expect(
             Wire::toShutters + Wire::shutters(0x01) + Wire::toTemperatures + Wire::readRequest(1)));
@@ -80,7 +80,7 @@ private slots:
         for (int turn = 0; turn < 20; ++turn) {
             const int channel = turn % Channels::count;
             answerRead(channel);
-            station->click("CS01"_s);
+            station->click(cell("CS", 0));
             station->tick();
             const QByteArray command = Wire::shutters(turn % 2 == 0 ? 0x01 : 0x00);
             QVERIFY(station->adapter.expect(Wire::toShutters + command + Wire::toTemperatures
@@ -95,7 +95,7 @@ private slots:
         station->tick();
         station->pressRun(0, "200"_s, "5"_s);
         DrivenClock::advance(1);
-        station->click("CS01"_s);
+        station->click(cell("CS", 0));
         station->tick();
         QVERIFY(station->adapter.expect(
             Wire::toShutters + Wire::shutters(0x01) + Wire::toTemperatures + Wire::setPoint(0, "0120.0")));

@@ -52,8 +52,8 @@ private slots:
     void newButtonsPrepareAndSendNothing()
     {
         const MessageCapture capture;
-        station->click("NS01"_s);
-        station->click("NS04"_s);
+        station->click(cell("NS", 0));
+        station->click(cell("NS", 3));
         QCOMPARE(shown("NS"), "oxxoxxx"_s);
         QCOMPARE(shown("CS"), "xxxxxxx"_s);
         QVERIFY(station->adapter.expectNothing());
@@ -72,10 +72,10 @@ private slots:
 
     void nowButtonsSendAtOnce()
     {
-        station->click("CS03"_s);
+        station->click(cell("CS", 2));
         QVERIFY(station->adapter.expect(Wire::shutters(0x04)));
         QCOMPARE(shown("CS"), "xxoxxxx"_s);
-        station->click("CS03"_s);
+        station->click(cell("CS", 2));
         QVERIFY(station->adapter.expect(Wire::shutters(0x00)));
         QCOMPARE(shown("CS"), "xxxxxxx"_s);
     }
@@ -94,8 +94,8 @@ private slots:
 
     void changeSendsThePreparedCombination()
     {
-        station->click("NS01"_s);
-        station->click("NS07"_s);
+        station->click(cell("NS", 0));
+        station->click(cell("NS", 6));
         station->click("ChangeShutterB"_s);
         QVERIFY(station->adapter.expect(Wire::shutters(0x41)));
         QCOMPARE(shown("CS"), "oxxxxxo"_s);
@@ -111,10 +111,10 @@ private slots:
 
     void changeLeavesThePreparedCombination()
     {
-        station->click("NS02"_s);
+        station->click(cell("NS", 1));
         station->click("ChangeShutterB"_s);
         QCOMPARE(shown("NS"), "xoxxxxx"_s);
-        station->click("NS03"_s);
+        station->click(cell("NS", 2));
         QCOMPARE(shown("CS"), "xoxxxxx"_s);
         station->click("ChangeShutterB"_s);
         QVERIFY(station->adapter.expect(Wire::shutters(0x02) + Wire::shutters(0x06)));
@@ -122,8 +122,8 @@ private slots:
 
     void allCloseKeepsThePreparedCombination()
     {
-        station->click("NS02"_s);
-        station->click("NS05"_s);
+        station->click(cell("NS", 1));
+        station->click(cell("NS", 4));
         station->click("ChangeShutterB"_s);
         QVERIFY(station->adapter.expect(Wire::shutters(0x12)));
 
@@ -139,8 +139,8 @@ private slots:
 
     void nowLeavesNewAlone()
     {
-        station->click("NS01"_s);
-        station->click("CS02"_s);
+        station->click(cell("NS", 0));
+        station->click(cell("CS", 1));
         QVERIFY(station->adapter.expect(Wire::shutters(0x02)));
         QCOMPARE(shown("NS"), "oxxxxxx"_s);
         // What was opened by hand and is not in the prepared combination is closed by it.
@@ -167,8 +167,8 @@ private slots:
     void debugLinesNameTheUnit()
     {
         const MessageCapture capture;
-        station->click("CS01"_s);
-        station->click("CS04"_s);
+        station->click(cell("CS", 0));
+        station->click(cell("CS", 3));
         station->click("AllCloseB"_s);
         QVERIFY(station->adapter.expect(Wire::shutters(0x01) + Wire::shutters(0x09) + Wire::shutters(0x00)));
 

@@ -41,7 +41,7 @@ private slots:
 
     void theBusIsNotReaddressedWhileAReplyIsPending()
     {
-        station->click("CS01"_s);
+        station->click(cell("CS", 0));
         QTRY_VERIFY(lines(retrying) >= 3);
         QVERIFY(station->adapter.expectNothing());
         station->adapter.send(Wire::reading(25.0) + '\n');
@@ -50,21 +50,21 @@ private slots:
 
     void thePanelShowsTheChangeWhenItIsSent()
     {
-        const QString before = station->style("CS01"_s);
-        station->click("CS01"_s);
+        const QString before = station->style(cell("CS", 0));
+        station->click(cell("CS", 0));
         QTRY_VERIFY(lines(retrying) >= 2);
-        QCOMPARE(station->text("CS01"_s), "Close"_s);
-        QCOMPARE(station->style("CS01"_s), before);
+        QCOMPARE(station->text(cell("CS", 0)), "Close"_s);
+        QCOMPARE(station->style(cell("CS", 0)), before);
 
         station->adapter.send(Wire::reading(25.0) + '\n');
         QTRY_COMPARE(lines(sent), 1);
-        QCOMPARE(station->text("CS01"_s), "Open"_s);
-        QCOMPARE(station->style("CS01"_s), yellow);
+        QCOMPARE(station->text(cell("CS", 0)), "Open"_s);
+        QCOMPARE(station->style(cell("CS", 0)), yellow);
     }
 
     void retriesSayThatTheyDo()
     {
-        station->click("CS01"_s);
+        station->click(cell("CS", 0));
         // The first line comes with the click, before any timer.
         QCOMPARE(MessageCapture::texts(), QStringList{retrying});
         const LoggedMessage first = MessageCapture::messages().first();
@@ -77,7 +77,7 @@ private slots:
 
     void retriesStopWithTheReply()
     {
-        station->click("CS01"_s);
+        station->click(cell("CS", 0));
         QTRY_VERIFY(lines(retrying) >= 2);
         station->adapter.send(Wire::reading(25.0) + '\n');
         QTRY_COMPARE(lines(sent), 1);
@@ -94,11 +94,11 @@ private slots:
 
     void theLastChangeWins()
     {
-        station->click("CS01"_s);
-        station->click("CS02"_s);
+        station->click(cell("CS", 0));
+        station->click(cell("CS", 1));
         QTRY_VERIFY(lines(retrying) >= 4);
-        station->click("CS01"_s);
-        station->click("CS07"_s);
+        station->click(cell("CS", 0));
+        station->click(cell("CS", 6));
         station->adapter.send(Wire::reading(25.0) + '\n');
         // One command for all four clicks, and it is the last state.
         QVERIFY(station->adapter.expect(
@@ -109,19 +109,19 @@ private slots:
 
     void allCloseWaitsToo()
     {
-        station->click("NS03"_s);
+        station->click(cell("NS", 2));
         station->click("ChangeShutterB"_s);
         station->click("AllCloseB"_s);
         QCOMPARE(MessageCapture::texts().mid(0, 3), (QStringList{retrying, "All Close 7"_s, retrying}));
         QVERIFY(station->adapter.expectNothing());
         station->adapter.send("ER\n");
         QVERIFY(station->adapter.expect(Wire::toShutters + Wire::shutters(0x00)));
-        QCOMPARE(station->text("NS03"_s), "Open"_s);
+        QCOMPARE(station->text(cell("NS", 2)), "Open"_s);
     }
 
     void thereIsNoLimitOnRetries()
     {
-        station->click("CS05"_s);
+        station->click(cell("CS", 4));
         // A hundred and more: longer than any reasonable reply takes.
         QTRY_VERIFY_WITH_TIMEOUT(lines(retrying) >= 120, 10000);
         QVERIFY(station->adapter.expectNothing());

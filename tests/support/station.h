@@ -26,6 +26,9 @@ public:
     /// station's timers and its clock are live.
     enum class Time { Held, Running };
 
+    /// Ticks of a polling round without a channel in use.
+    static constexpr int emptyRound = 3 * Channels::count;
+
     explicit Station(Time time = Time::Held);
     ~Station();
     Station(const Station&) = delete;
