@@ -90,7 +90,7 @@ void TestALine::widgetsStandInTheirColumns_data()
 
 void TestALine::widgetsStandInTheirColumns()
 {
-    QFETCH(const bool, builtInPlace);
+    QFETCH(bool, builtInPlace);
     PlacedRow row(builtInPlace);
     auto* label = qobject_cast<QLabel*>(row.at(0));
     QVERIFY(label != nullptr);
@@ -163,8 +163,8 @@ void TestALine::timeIsShownWithSixDigits_data()
 
 void TestALine::timeIsShownWithSixDigits()
 {
-    QFETCH(const double, time);
-    QFETCH(const QString, text);
+    QFETCH(double, time);
+    QFETCH(QString, text);
     PlacedRow row;
     row.line.setTime(time);
     QCOMPARE(row.edit(10)->text(), text);

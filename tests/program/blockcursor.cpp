@@ -254,9 +254,9 @@ void TestBlockCursor::manyRepeatsAreExactAndQuick_data()
 
 void TestBlockCursor::manyRepeatsAreExactAndQuick()
 {
-    QFETCH(const double, time);
-    QFETCH(const bool, ownGroups);
-    QFETCH(const double, total);
+    QFETCH(double, time);
+    QFETCH(bool, ownGroups);
+    QFETCH(double, total);
 
     Table table(200);
     for (int k = 0; k < 199; ++k) {

@@ -105,10 +105,10 @@ void TestExamples::programPlaysToItsEnd_data()
 
 void TestExamples::programPlaysToItsEnd()
 {
-    QFETCH(const QString, name);
-    QFETCH(const QString, total);
-    QFETCH(const int, starts);
-    QFETCH(const int, holds);
+    QFETCH(QString, name);
+    QFETCH(QString, total);
+    QFETCH(int, starts);
+    QFETCH(int, holds);
 
     ProgramWindow table;
     LaggingChamber chamber(table);

@@ -95,7 +95,7 @@ void TestPlayerWalk::repeatCountBelowOneRunsOnce_data()
 
 void TestPlayerWalk::repeatCountBelowOneRunsOnce()
 {
-    QFETCH(const QString, times);
+    QFETCH(QString, times);
     table().enter(0, QStringLiteral("0.1"), QStringLiteral("A"), times);
     table().enter(1, QStringLiteral("0.1"), QStringLiteral("B"), QStringLiteral("2"));
     run();

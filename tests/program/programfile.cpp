@@ -105,8 +105,8 @@ void TestProgramFile::timeIsWrittenWithSixDigits_data()
 
 void TestProgramFile::timeIsWrittenWithSixDigits()
 {
-    QFETCH(const double, time);
-    QFETCH(const QString, text);
+    QFETCH(double, time);
+    QFETCH(QString, text);
     ProgramStep step;
     step.timeSec = time;
     QCOMPARE(written({step}).split(QLatin1Char('\t')).at(17), text);
@@ -199,8 +199,8 @@ void TestProgramFile::shortLinesAreSkipped_data()
 
 void TestProgramFile::shortLinesAreSkipped()
 {
-    QFETCH(const int, fields);
-    QFETCH(const bool, accepted);
+    QFETCH(int, fields);
+    QFETCH(bool, accepted);
     const QString line = QStringList(defaultLine.split(QLatin1Char('\t')).mid(0, fields)).join(u'\t');
     QCOMPARE(readBack(line + u'\n' + defaultLine + u'\n').size(), accepted ? 2 : 1);
 }

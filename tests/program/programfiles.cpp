@@ -122,7 +122,7 @@ void TestProgramFiles::unwritableFileSaysSo_data()
 
 void TestProgramFiles::unwritableFileSaysSo()
 {
-    QFETCH(const QString, fname);
+    QFETCH(QString, fname);
     QDir().mkdir(QStringLiteral("afolder"));
     MessageCapture capture;
     callWithFile(table(), "APSaveProg", fname);

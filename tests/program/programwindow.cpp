@@ -15,15 +15,6 @@ namespace {
 const QString yellow = QStringLiteral("background-color: rgb(255, 255, 15);");
 const QString olive = QStringLiteral("background-color: rgb(185, 185, 105);");
 
-QtMessageHandler before = nullptr;
-
-void passOn(QtMsgType type, const QMessageLogContext& context, const QString& text)
-{
-    if (!text.startsWith(QLatin1String("This plugin does not support"))) {
-        before(type, context, text);
-    }
-}
-
 // Right-clicks and hands the menu that opens to `use`, which must close it. False when none opens.
 bool rightClick(QWidget& widget, const std::function<void(QMenu&)>& use)
 {
@@ -62,16 +53,6 @@ QStringList menuOf(QWidget& widget)
         menu.close();
     });
     return texts;
-}
-
-QuietPlatform::QuietPlatform()
-{
-    before = qInstallMessageHandler(&passOn);
-}
-
-QuietPlatform::~QuietPlatform()
-{
-    qInstallMessageHandler(before);
 }
 
 ProgramWindow::ProgramWindow(Time time)

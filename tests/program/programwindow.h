@@ -2,6 +2,7 @@
 
 #include "app/mbemain.h"
 #include "program/programstep.h"
+#include "support/messagecapture.h"
 #include "support/scriptedadapter.h"
 #include "support/ticks.h"
 
@@ -22,17 +23,6 @@ bool pickFromMenu(QWidget& label, RowEntry entry);
 
 /// Clicks `widget` with the right mouse button, closes the menu that opens, if any, and says its entries.
 QStringList menuOf(QWidget& widget);
-
-/// While it lives, the off-screen platform keeps to itself what it cannot do (raise a window, grab the
-/// keyboard): showing windows and menus is nothing to warn of in a test.
-class QuietPlatform
-{
-public:
-    QuietPlatform();
-    ~QuietPlatform();
-    QuietPlatform(const QuietPlatform&) = delete;
-    QuietPlatform& operator=(const QuietPlatform&) = delete;
-};
 
 /// The station's window with its program table, looked at as the operator does, linked to a scripted adapter.
 /// The station's timers are held and its clock is driven, or, in real time, its polling is off: the adapter

@@ -1,204 +1,200 @@
-#include "program/programwindow.h"
+// What a step's start does to shutters and cells, and the player in real time.
 
+#include "support/station.h"
 #include "support/testmain.h"
 
-#include <QStatusBar>
 #include <QTimer>
 
-/// What a step's start does to shutters and cells, and the player in real time.
-class TestStepStart : public QObject
+using namespace TestText;
+
+class StepStartTest : public QObject
 {
     Q_OBJECT
 
+    ProgramTab& program() { return station->program(); }
+
+    // No channel is in use, so that no reply that nobody sends keeps the bus.
+    bool openInRealTime()
+    {
+        station.reset();
+        Station::storeInUse({});
+        station = std::make_unique<Station>(Station::Time::Running);
+        return station->open();
+    }
+
+    std::unique_ptr<Station> station;
+
 private slots:
-    void shuttersFollowEveryStep();
-    void wantedShuttersAreNotTouched();
-    void rampLastsAsLongAsTheStep();
-    void setPointGoesOverUnchanged();
-    void zeroAndNegativeSetPointsLeaveTheChannelAlone();
-    void runningRampIsStartedAnew();
-    void channelNotInUseIsRampedToo();
-    void tooFastARiseIsRefusedAndTheProgramGoesOn();
-    void stopLeavesShuttersAndRamps();
-    void shortProgramInRealTime();
-    void endlessShortStepsLeaveTheWindowAlive();
+    void init()
+    {
+        station = std::make_unique<Station>();
+        QVERIFY(station->open());
+    }
+
+    void cleanup() { station.reset(); }
+
+    void shuttersFollowEveryStep()
+    {
+        for (int k = 0; k < Channels::shutterCount; ++k) {
+            program().enter(k, "0.02"_s);
+            program().shutter(k, k)->click();
+        }
+        program().shutter(6, 0)->click();
+        program().click("Run");
+        QCOMPARE(program().play().size(), Channels::shutterCount);
+        QTRY_COMPARE(station->masks(), QByteArray("\x01\x02\x04\x08\x10\x20\x41"));
+        QCOMPARE(station->text(cell("CS", 0)), "Open"_s);
+        QCOMPARE(station->text(cell("CS", 5)), "Close"_s);
+        QCOMPARE(station->text(cell("CS", 6)), "Open"_s);
+    }
+
+    void wantedShuttersAreNotTouched()
+    {
+        station->click(cell("NS", 1));
+        program().enter(0, "1"_s);
+        program().shutter(0, 0)->click();
+        program().click("Run");
+        program().tick();
+        QCOMPARE(station->text(cell("CS", 0)), "Open"_s);
+        QCOMPARE(station->text(cell("NS", 0)), "Close"_s);
+        QCOMPARE(station->text(cell("NS", 1)), "Open"_s);
+    }
+
+    void rampLastsAsLongAsTheStep()
+    {
+        program().enter(0, "100"_s);
+        for (int ch = 0; ch < Channels::count; ++ch) {
+            program().setPoint(0, ch)->setText(QString::number(10 + ch));
+        }
+        program().click("Run");
+        program().tick();
+        for (int ch = 0; ch < Channels::count; ++ch) {
+            QCOMPARE(station->text(cell("TDeg", ch)), QString::number(10 + ch));
+            QCOMPARE(station->text(cell("DTime", ch)), "1.66667"_s);
+            QVERIFY(station->isRamping(ch));
+        }
+    }
+
+    void setPointGoesOverUnchanged()
+    {
+        program().enter(0, "60"_s);
+        program().setPoint(0, 0)->setText(" 0040.50"_s);
+        program().click("Run");
+        program().tick();
+        QCOMPARE(station->text(cell("TDeg", 0)), " 0040.50"_s);
+        QCOMPARE(station->text(cell("DTime", 0)), "1"_s);
+    }
+
+    void zeroAndNegativeSetPointsLeaveTheChannelAlone()
+    {
+        program().enter(0, "60"_s);
+        program().setPoint(0, 0)->setText("40"_s);
+        program().enter(1, "30"_s);
+        program().setPoint(1, 1)->setText("-5"_s);
+        program().setPoint(1, 2)->setText("warm"_s);
+        program().setPoint(1, 3)->setText("inf"_s);
+        program().click("Run");
+        program().tick();
+        program().tick(60001);
+        QCOMPARE(program().marked(), QVector<int>{2});
+        // The ramp of the step before goes on.
+        QCOMPARE(station->text(cell("TDeg", 0)), "40"_s);
+        QCOMPARE(station->text(cell("DTime", 0)), "1"_s);
+        QCOMPARE(station->text(cell("RunT", 0)), "Stop"_s);
+        for (const int channel : {1, 2, 3}) {
+            QCOMPARE(station->text(cell("TDeg", channel)), "0.0"_s);
+            QCOMPARE(station->text(cell("DTime", channel)), "10.0"_s);
+            QCOMPARE(station->text(cell("RunT", channel)), "Run"_s);
+        }
+    }
+
+    void runningRampIsStartedAnew()
+    {
+        program().enter(0, "60"_s);
+        program().setPoint(0, 0)->setText("40"_s);
+        program().enter(1, "120"_s);
+        program().setPoint(1, 0)->setText("60"_s);
+        program().click("Run");
+        program().tick();
+        program().tick(60001);
+        QCOMPARE(station->text(cell("TDeg", 0)), "60"_s);
+        QCOMPARE(station->text(cell("DTime", 0)), "2"_s);
+        QCOMPARE(station->text(cell("RunT", 0)), "Stop"_s);
+    }
+
+    void channelNotInUseIsRampedToo()
+    {
+        station->click(cell("TCActive", 2));
+        QCOMPARE(station->text(cell("TCActive", 2)), "NotInUse"_s);
+        program().enter(0, "60"_s);
+        program().setPoint(0, 2)->setText("40"_s);
+        program().click("Run");
+        program().tick();
+        QCOMPARE(station->text(cell("RunT", 2)), "Stop"_s);
+    }
+
+    void tooFastARiseIsRefusedAndTheProgramGoesOn()
+    {
+        program().enter(0, "1"_s);
+        program().setPoint(0, 0)->setText("40"_s);
+        program().shutter(0, 0)->click();
+        program().click("Run");
+        program().tick();
+        QCOMPARE(station->statusBar(),
+            "The temperature rise up rate should be less than 50 deg-C per min for the cell [0:Be]."_s);
+        QCOMPARE(station->text(cell("RunT", 0)), "Run"_s);
+        QTRY_COMPARE(station->masks(), QByteArray("\x01"));
+        QCOMPARE(program().marked(), QVector<int>{1});
+    }
+
+    void stopLeavesShuttersAndRamps()
+    {
+        program().enter(0, "60"_s);
+        program().setPoint(0, 0)->setText("40"_s);
+        program().shutter(0, 0)->click();
+        program().click("Run");
+        program().tick();
+        QVERIFY(station->adapter.expect(Wire::shutters(0x01)));
+        program().click("Run");
+        QVERIFY(!program().isRunning());
+        QCOMPARE(station->text(cell("RunT", 0)), "Stop"_s);
+        QCOMPARE(station->text(cell("CS", 0)), "Open"_s);
+        QVERIFY(station->adapter.expectNothing());
+    }
+
+    void shortProgramInRealTime()
+    {
+        QVERIFY(openInRealTime());
+        for (int k = 0; k < 3; ++k) {
+            program().enter(k, "0.1"_s, "A"_s, "2"_s);
+            program().shutter(k, k)->click();
+        }
+        QElapsedTimer timer;
+        timer.start();
+        program().click("Run");
+        QTRY_VERIFY(!program().isRunning());
+        QVERIFY(timer.elapsed() >= 600);
+        QTRY_COMPARE(station->masks(), QByteArray("\x01\x02\x04\x01\x02\x04"));
+        QCOMPARE(program().label("DispTTime02"), "   0.6"_s);
+    }
+
+    void endlessShortStepsLeaveTheWindowAlive()
+    {
+        QVERIFY(openInRealTime());
+        program().show();
+        for (int k = 0; k < ProgramTab::rows; ++k) {
+            program().enter(k, "0.001"_s, QString::number(k / 2), "2147483647"_s);
+        }
+        program().click("Run");
+        int idleTurns = 0;
+        QTimer other;
+        connect(&other, &QTimer::timeout, this, [&idleTurns] { ++idleTurns; });
+        other.start(0);
+        QTRY_VERIFY_WITH_TIMEOUT(idleTurns > 200 && station->masks().size() > 20, 60000);
+        program().click("Run");
+        QVERIFY(!program().isRunning());
+    }
 };
 
-void TestStepStart::shuttersFollowEveryStep()
-{
-    ProgramWindow table;
-    for (int k = 0; k < 7; ++k) {
-        table.enter(k, QStringLiteral("0.02"));
-        table.shutter(k, k)->click();
-    }
-    table.shutter(6, 0)->click();
-    table.forgetCommands();
-    table.button("ProgRun")->click();
-    QCOMPARE(table.play().size(), 7);
-    QTRY_COMPARE(table.masks(), QByteArray("\x01\x02\x04\x08\x10\x20\x41"));
-    QCOMPARE(table.button("CS01")->text(), QStringLiteral("Open"));
-    QCOMPARE(table.button("CS06")->text(), QStringLiteral("Close"));
-    QCOMPARE(table.button("CS07")->text(), QStringLiteral("Open"));
-}
-
-void TestStepStart::wantedShuttersAreNotTouched()
-{
-    ProgramWindow table;
-    table.button("NS02")->click();
-    table.enter(0, QStringLiteral("1"));
-    table.shutter(0, 0)->click();
-    table.button("ProgRun")->click();
-    table.tick();
-    QCOMPARE(table.button("CS01")->text(), QStringLiteral("Open"));
-    QCOMPARE(table.button("NS01")->text(), QStringLiteral("Close"));
-    QCOMPARE(table.button("NS02")->text(), QStringLiteral("Open"));
-}
-
-void TestStepStart::rampLastsAsLongAsTheStep()
-{
-    ProgramWindow table;
-    table.enter(0, QStringLiteral("100"));
-    for (int ch = 0; ch < 9; ++ch) {
-        table.setPoint(0, ch)->setText(QString::number(10 + ch));
-    }
-    table.button("ProgRun")->click();
-    table.tick();
-    for (int ch = 0; ch < 9; ++ch) {
-        const QByteArray number = QByteArray("0") + QByteArray::number(ch + 1);
-        QCOMPARE(table.edit("TDeg" + number)->text(), QString::number(10 + ch));
-        QCOMPARE(table.edit("DTime" + number)->text(), QStringLiteral("1.66667"));
-        QCOMPARE(table.button("RunT" + number)->text(), QStringLiteral("Stop"));
-    }
-}
-
-void TestStepStart::setPointGoesOverUnchanged()
-{
-    ProgramWindow table;
-    table.enter(0, QStringLiteral("60"));
-    table.setPoint(0, 0)->setText(QStringLiteral(" 0040.50"));
-    table.button("ProgRun")->click();
-    table.tick();
-    QCOMPARE(table.edit("TDeg01")->text(), QStringLiteral(" 0040.50"));
-    QCOMPARE(table.edit("DTime01")->text(), QStringLiteral("1"));
-}
-
-void TestStepStart::zeroAndNegativeSetPointsLeaveTheChannelAlone()
-{
-    ProgramWindow table;
-    table.enter(0, QStringLiteral("60"));
-    table.setPoint(0, 0)->setText(QStringLiteral("40"));
-    table.enter(1, QStringLiteral("30"));
-    table.setPoint(1, 1)->setText(QStringLiteral("-5"));
-    table.setPoint(1, 2)->setText(QStringLiteral("warm"));
-    table.setPoint(1, 3)->setText(QStringLiteral("inf"));
-    table.button("ProgRun")->click();
-    table.tick();
-    table.tick(60001);
-    QCOMPARE(table.marked(), QVector<int>({2}));
-    // The ramp of the step before goes on.
-    QCOMPARE(table.edit("TDeg01")->text(), QStringLiteral("40"));
-    QCOMPARE(table.edit("DTime01")->text(), QStringLiteral("1"));
-    QCOMPARE(table.button("RunT01")->text(), QStringLiteral("Stop"));
-    for (const char* number : {"02", "03", "04"}) {
-        QCOMPARE(table.edit(QByteArray("TDeg") + number)->text(), QStringLiteral("0.0"));
-        QCOMPARE(table.edit(QByteArray("DTime") + number)->text(), QStringLiteral("10.0"));
-        QCOMPARE(table.button(QByteArray("RunT") + number)->text(), QStringLiteral("Run"));
-    }
-}
-
-void TestStepStart::runningRampIsStartedAnew()
-{
-    ProgramWindow table;
-    table.enter(0, QStringLiteral("60"));
-    table.setPoint(0, 0)->setText(QStringLiteral("40"));
-    table.enter(1, QStringLiteral("120"));
-    table.setPoint(1, 0)->setText(QStringLiteral("60"));
-    table.button("ProgRun")->click();
-    table.tick();
-    table.tick(60001);
-    QCOMPARE(table.edit("TDeg01")->text(), QStringLiteral("60"));
-    QCOMPARE(table.edit("DTime01")->text(), QStringLiteral("2"));
-    QCOMPARE(table.button("RunT01")->text(), QStringLiteral("Stop"));
-}
-
-void TestStepStart::channelNotInUseIsRampedToo()
-{
-    ProgramWindow table;
-    table.button("TCActive03")->click();
-    QCOMPARE(table.button("TCActive03")->text(), QStringLiteral("NotInUse"));
-    table.enter(0, QStringLiteral("60"));
-    table.setPoint(0, 2)->setText(QStringLiteral("40"));
-    table.button("ProgRun")->click();
-    table.tick();
-    QCOMPARE(table.button("RunT03")->text(), QStringLiteral("Stop"));
-    table.button("TCActive03")->click(); // the setting outlives the window
-}
-
-void TestStepStart::tooFastARiseIsRefusedAndTheProgramGoesOn()
-{
-    ProgramWindow table;
-    table.enter(0, QStringLiteral("1"));
-    table.setPoint(0, 0)->setText(QStringLiteral("40"));
-    table.shutter(0, 0)->click();
-    table.forgetCommands();
-    table.button("ProgRun")->click();
-    table.tick();
-    QCOMPARE(table.window().statusBar()->currentMessage(),
-        QStringLiteral(
-            "The temperature rise up rate should be less than 50 deg-C per min for the cell [0:Be]."));
-    QCOMPARE(table.button("RunT01")->text(), QStringLiteral("Run"));
-    QTRY_COMPARE(table.masks(), QByteArray("\x01"));
-    QCOMPARE(table.marked(), QVector<int>({1}));
-}
-
-void TestStepStart::stopLeavesShuttersAndRamps()
-{
-    ProgramWindow table;
-    table.enter(0, QStringLiteral("60"));
-    table.setPoint(0, 0)->setText(QStringLiteral("40"));
-    table.shutter(0, 0)->click();
-    table.button("ProgRun")->click();
-    table.tick();
-    table.forgetCommands();
-    table.button("ProgRun")->click();
-    QVERIFY(!table.isRunning());
-    QCOMPARE(table.button("RunT01")->text(), QStringLiteral("Stop"));
-    QCOMPARE(table.button("CS01")->text(), QStringLiteral("Open"));
-    QVERIFY(table.adapter().expectNothing());
-}
-
-void TestStepStart::shortProgramInRealTime()
-{
-    ProgramWindow table(ProgramWindow::Time::Real);
-    for (int k = 0; k < 3; ++k) {
-        table.enter(k, QStringLiteral("0.1"), QStringLiteral("A"), QStringLiteral("2"));
-        table.shutter(k, k)->click();
-    }
-    QElapsedTimer timer;
-    timer.start();
-    table.button("ProgRun")->click();
-    QTRY_VERIFY(!table.isRunning());
-    QVERIFY(timer.elapsed() >= 600);
-    QTRY_VERIFY(table.masks().endsWith(QByteArray("\x01\x02\x04\x01\x02\x04")));
-    QCOMPARE(table.label("DispTTime02"), QStringLiteral("   0.6"));
-}
-
-void TestStepStart::endlessShortStepsLeaveTheWindowAlive()
-{
-    ProgramWindow table(ProgramWindow::Time::Real);
-    table.show();
-    for (int k = 0; k < 200; ++k) {
-        table.enter(k, QStringLiteral("0.001"), QString::number(k / 2), QStringLiteral("2147483647"));
-    }
-    table.button("ProgRun")->click();
-    int idleTurns = 0;
-    QTimer other;
-    connect(&other, &QTimer::timeout, this, [&idleTurns] { ++idleTurns; });
-    other.start(0);
-    QTRY_VERIFY_WITH_TIMEOUT(idleTurns > 200 && table.masks().size() > 20, 60000);
-    table.button("ProgRun")->click();
-    QVERIFY(!table.isRunning());
-}
-
-NELVO_TEST_MAIN(TestStepStart)
+NELVO_TEST_MAIN(StepStartTest)
 #include "stepstart.moc"

@@ -5,6 +5,10 @@
 
 #include <memory>
 
+/// The station's files, in its working directory: what it remembers, and the temperature record.
+inline const QString stateFile = QStringLiteral("NelvoCurrentStat.dat");
+inline const QString recordFile = QStringLiteral("TemperatureRec.dat");
+
 /// Makes the file `name` hold `bytes`; ends the test program when that fails.
 void putFile(const QString& name, const QByteArray& bytes);
 

@@ -16,6 +16,16 @@ void capture(QtMsgType type, const QMessageLogContext& context, const QString& t
     captured.append(message);
 }
 
+// What the newest QuietPlatform passes on to.
+QtMessageHandler next = nullptr;
+
+void passOn(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    if (!text.startsWith(QLatin1String("This plugin does not support"))) {
+        next(type, context, text);
+    }
+}
+
 } // namespace
 
 MessageCapture::MessageCapture()
@@ -57,4 +67,17 @@ QStringList MessageCapture::warnings()
 void MessageCapture::clear()
 {
     captured.clear();
+}
+
+QuietPlatform::QuietPlatform()
+    : outer(next)
+    , before(qInstallMessageHandler(&passOn))
+{
+    next = before == &passOn ? outer : before;
+}
+
+QuietPlatform::~QuietPlatform()
+{
+    qInstallMessageHandler(before);
+    next = outer;
 }

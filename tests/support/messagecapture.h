@@ -34,3 +34,18 @@ public:
 private:
     QtMessageHandler before;
 };
+
+/// While it lives, the off-screen platform keeps to itself what it cannot do (raise a window, grab the
+/// keyboard, keep size hints): showing windows and menus is nothing to warn of in a test.
+class QuietPlatform
+{
+public:
+    QuietPlatform();
+    ~QuietPlatform();
+    QuietPlatform(const QuietPlatform&) = delete;
+    QuietPlatform& operator=(const QuietPlatform&) = delete;
+
+private:
+    QtMessageHandler outer;
+    QtMessageHandler before;
+};

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/wire.h"
+
 #include <QByteArray>
 #include <QHostAddress>
 #include <QObject>
@@ -36,6 +38,9 @@ public:
     /// Everything that came and was not expected yet.
     QByteArray received() const { return unread; }
     void forget() { unread.clear(); }
+
+    /// Takes the whole messages among them.
+    QList<Wire::Message> takeMessages() { return Wire::takeMessages(unread); }
 
     /// Sends `bytes` and lets the program take them in.
     void send(const QByteArray& bytes);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/testtext.h"
+
 #include <QtTest>
 
 #include <functional>

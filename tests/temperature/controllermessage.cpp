@@ -10,31 +10,7 @@
 #include <cstring>
 #include <locale>
 
-class ControllerMessageTest : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void readRequestsOfAllChannels();
-    void setPointsOfAllChannels();
-    void aChannelThatIsNotThereGetsNoMessage();
-    void setPointFormats_data();
-    void setPointFormats();
-    void setPointsAreWrittenAsPrintfDoes();
-    void aCommaForADecimalPointChangesNothing();
-
-    void theCheckCoversEveryByte();
-    void noSetPointLosesItsCheck();
-    void aCheckOfZeroEndsTheMessage();
-    void theCheckNeedsRoom_data();
-    void theCheckNeedsRoom();
-    void aMessageWithoutAnEndGetsNoCheck();
-
-    void acceptedReplies_data();
-    void acceptedReplies();
-    void shownValues_data();
-    void shownValues();
-};
+using namespace TestText;
 
 namespace {
 
@@ -62,197 +38,203 @@ char exclusiveOr(const QByteArray& bytes)
 
 } // namespace
 
-void ControllerMessageTest::readRequestsOfAllChannels()
+class ControllerMessageTest : public QObject
 {
-    for (int channel = 0; channel < 9; ++channel) {
-        const QByteArray expected = QByteArray::fromHex("0430") + QByteArray::number(channel + 1) + "M1\x05";
-        QCOMPARE(ControllerMessage::readRequest(channel), expected);
+    Q_OBJECT
+
+private slots:
+    void readRequestsOfAllChannels()
+    {
+        for (int channel = 0; channel < Channels::count; ++channel) {
+            const QByteArray expected
+                = QByteArray::fromHex("0430") + QByteArray::number(channel + 1) + "M1\x05";
+            QCOMPARE(ControllerMessage::readRequest(channel), expected);
+        }
+        QCOMPARE(ControllerMessage::readRequest(0), QByteArray::fromHex("0430314D3105"));
+        QCOMPARE(ControllerMessage::readRequest(2), QByteArray::fromHex("0430334D3105"));
+        QCOMPARE(ControllerMessage::readRequest(8), QByteArray::fromHex("0430394D3105"));
     }
-    QCOMPARE(ControllerMessage::readRequest(0), QByteArray::fromHex("0430314D3105"));
-    QCOMPARE(ControllerMessage::readRequest(2), QByteArray::fromHex("0430334D3105"));
-    QCOMPARE(ControllerMessage::readRequest(8), QByteArray::fromHex("0430394D3105"));
-}
 
-void ControllerMessageTest::setPointsOfAllChannels()
-{
-    for (int channel = 0; channel < 9; ++channel) {
-        const QByteArray expected
-            = QByteArray::fromHex("0430") + QByteArray::number(channel + 1) + "\x02S10025.0\x03";
-        QCOMPARE(ControllerMessage::setPoint(channel, 25.0), expected);
+    void setPointsOfAllChannels()
+    {
+        for (int channel = 0; channel < Channels::count; ++channel) {
+            const QByteArray expected
+                = QByteArray::fromHex("0430") + QByteArray::number(channel + 1) + "\x02S10025.0\x03";
+            QCOMPARE(ControllerMessage::setPoint(channel, 25.0), expected);
+        }
+        QCOMPARE(ControllerMessage::setPoint(4, 120.0), QByteArray::fromHex("043035025331303132302E3003"));
     }
-    QCOMPARE(ControllerMessage::setPoint(4, 120.0), QByteArray::fromHex("043035025331303132302E3003"));
-}
 
-// Its unit would be ':' or worse, which some other device might take for its own.
-void ControllerMessageTest::aChannelThatIsNotThereGetsNoMessage()
-{
-    for (const int channel : {-1, Channels::count, 255}) {
-        QCOMPARE(ControllerMessage::readRequest(channel), QByteArray());
-        QCOMPARE(ControllerMessage::setPoint(channel, 25.0), QByteArray());
+    // Its unit would be ':' or worse, which some other device might take for its own.
+    void aChannelThatIsNotThereGetsNoMessage()
+    {
+        for (const int channel : {-1, Channels::count, 255}) {
+            QCOMPARE(ControllerMessage::readRequest(channel), QByteArray());
+            QCOMPARE(ControllerMessage::setPoint(channel, 25.0), QByteArray());
+        }
     }
-}
 
-void ControllerMessageTest::setPointFormats_data()
-{
-    QTest::addColumn<double>("degC");
-    QTest::addColumn<QByteArray>("written");
-    QTest::newRow("zero") << 0.0 << QByteArray("0000.0");
-    QTest::newRow("25") << 25.0 << QByteArray("0025.0");
-    QTest::newRow("120") << 120.0 << QByteArray("0120.0");
-    QTest::newRow("rounded up") << 1234.56 << QByteArray("1234.6");
-    QTest::newRow("rounded down") << 1234.54 << QByteArray("1234.5");
-    QTest::newRow("a half to even, down") << 101.25 << QByteArray("101.2").prepend('0');
-    QTest::newRow("a half to even, up") << 101.75 << QByteArray("101.8").prepend('0');
-    QTest::newRow("minus 5") << -5.0 << QByteArray("-005.0");
-    QTest::newRow("minus 273.15") << -273.15 << QByteArray("-273.1");
-    QTest::newRow("minus nearly nothing") << -0.04 << QByteArray("-000.0");
-    QTest::newRow("9999.9") << 9999.9 << QByteArray("9999.9");
-    QTest::newRow("into the next digit") << 9999.96 << QByteArray("10000.0");
-    QTest::newRow("seven characters") << 12345.6 << QByteArray("12345.6");
-    QTest::newRow("minus seven") << -1000.0 << QByteArray("-1000.0");
-    QTest::newRow("a million") << 1e6 << QByteArray("1000000.0");
-}
+    void setPointFormats_data()
+    {
+        QTest::addColumn<double>("degC");
+        QTest::addColumn<QByteArray>("written");
+        QTest::newRow("zero") << 0.0 << QByteArray("0000.0");
+        QTest::newRow("25") << 25.0 << QByteArray("0025.0");
+        QTest::newRow("120") << 120.0 << QByteArray("0120.0");
+        QTest::newRow("rounded up") << 1234.56 << QByteArray("1234.6");
+        QTest::newRow("rounded down") << 1234.54 << QByteArray("1234.5");
+        QTest::newRow("a half to even, down") << 101.25 << QByteArray("101.2").prepend('0');
+        QTest::newRow("a half to even, up") << 101.75 << QByteArray("101.8").prepend('0');
+        QTest::newRow("minus 5") << -5.0 << QByteArray("-005.0");
+        QTest::newRow("minus 273.15") << -273.15 << QByteArray("-273.1");
+        QTest::newRow("minus nearly nothing") << -0.04 << QByteArray("-000.0");
+        QTest::newRow("9999.9") << 9999.9 << QByteArray("9999.9");
+        QTest::newRow("into the next digit") << 9999.96 << QByteArray("10000.0");
+        QTest::newRow("seven characters") << 12345.6 << QByteArray("12345.6");
+        QTest::newRow("minus seven") << -1000.0 << QByteArray("-1000.0");
+        QTest::newRow("a million") << 1e6 << QByteArray("1000000.0");
+    }
 
-void ControllerMessageTest::setPointFormats()
-{
-    QFETCH(double, degC);
-    QFETCH(QByteArray, written);
-    QCOMPARE(value(degC), written);
-}
+    void setPointFormats()
+    {
+        QFETCH(double, degC);
+        QFETCH(QByteArray, written);
+        QCOMPARE(value(degC), written);
+    }
 
-void ControllerMessageTest::setPointsAreWrittenAsPrintfDoes()
-{
-    std::setlocale(LC_NUMERIC, "C");
-    // Steps of a sixteenth meet every exact half; the others are what ramps of odd durations give.
-    for (const double step : {1.0 / 16.0, 1.0 / 3.0, 0.1, 7.77}) {
-        for (int i = -4000; i <= 30000; ++i) {
-            char expected[64];
-            std::snprintf(expected, sizeof(expected), "%06.1f", i * step);
-            if (value(i * step) != expected) {
-                QCOMPARE(value(i * step), QByteArray(expected));
+    void setPointsAreWrittenAsPrintfDoes()
+    {
+        std::setlocale(LC_NUMERIC, "C");
+        // Steps of a sixteenth meet every exact half; the others are what ramps of odd durations give.
+        for (const double step : {1.0 / 16.0, 1.0 / 3.0, 0.1, 7.77}) {
+            for (int i = -4000; i <= 30000; ++i) {
+                char expected[64];
+                std::snprintf(expected, sizeof(expected), "%06.1f", i * step);
+                if (value(i * step) != expected) {
+                    QCOMPARE(value(i * step), QByteArray(expected));
+                }
             }
         }
     }
-}
 
-void ControllerMessageTest::aCommaForADecimalPointChangesNothing()
-{
-    const std::locale before = std::locale::global(std::locale(std::locale::classic(), new CommaPoint));
-    for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8"}) {
-        std::setlocale(LC_ALL, name); // where the machine has one
+    void aCommaForADecimalPointChangesNothing()
+    {
+        const std::locale before = std::locale::global(std::locale(std::locale::classic(), new CommaPoint));
+        for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8"}) {
+            std::setlocale(LC_ALL, name); // where the machine has one
+        }
+        QCOMPARE(value(1234.5), QByteArray("1234.5"));
+        QCOMPARE(value(-5.5), QByteArray("-005.5"));
+        QCOMPARE(ControllerMessage::shownValue("01M 0512.3E"), "512.3"_s);
+        QCOMPARE(ControllerMessage::shownValue("01M 0512,3E"), "0"_s);
+        std::locale::global(before);
+        std::setlocale(LC_ALL, "C");
     }
-    QCOMPARE(value(1234.5), QByteArray("1234.5"));
-    QCOMPARE(value(-5.5), QByteArray("-005.5"));
-    QCOMPARE(ControllerMessage::shownValue("01M 0512.3E"), QStringLiteral("512.3"));
-    QCOMPARE(ControllerMessage::shownValue("01M 0512,3E"), QStringLiteral("0"));
-    std::locale::global(before);
-    std::setlocale(LC_ALL, "C");
-}
 
-void ControllerMessageTest::theCheckCoversEveryByte()
-{
-    const QByteArray message = ControllerMessage::setPoint(4, 120.0);
-    char buffer[1000] = {};
-    std::memcpy(buffer, message.constData(), static_cast<size_t>(message.size()));
-    QVERIFY(ControllerMessage::appendBlockCheck(buffer, 1000));
-    QCOMPARE(QByteArray(buffer), message + exclusiveOr(message));
-    QCOMPARE(QByteArray(buffer).toHex().toUpper(), QByteArray("043035025331303132302E30037F"));
-}
+    void theCheckCoversEveryByte()
+    {
+        const QByteArray message = ControllerMessage::setPoint(4, 120.0);
+        char buffer[1000] = {};
+        std::memcpy(buffer, message.constData(), static_cast<size_t>(message.size()));
+        QVERIFY(ControllerMessage::appendBlockCheck(buffer, 1000));
+        QCOMPARE(QByteArray(buffer), message + exclusiveOr(message));
+        QCOMPARE(QByteArray(buffer).toHex().toUpper(), QByteArray("043035025331303132302E30037F"));
+    }
 
-void ControllerMessageTest::noSetPointLosesItsCheck()
-{
-    for (int channel = 0; channel < 9; ++channel) {
-        for (int tenths = -12000; tenths < 120000; tenths += 7) {
-            const char check = exclusiveOr(ControllerMessage::setPoint(channel, tenths / 10.0));
-            // A control character would be worse than odd: NUL ends the message, LF would split it.
-            if (check < 0x20) {
-                QFAIL(qPrintable(QStringLiteral("channel %1, %2 tenths").arg(channel).arg(tenths)));
+    void noSetPointLosesItsCheck()
+    {
+        for (int channel = 0; channel < Channels::count; ++channel) {
+            for (int tenths = -12000; tenths < 120000; tenths += 7) {
+                const char check = exclusiveOr(ControllerMessage::setPoint(channel, tenths / 10.0));
+                // A control character would be worse than odd: NUL ends the message, LF would split it.
+                if (check < 0x20) {
+                    QFAIL(qPrintable("channel %1, %2 tenths"_s.arg(channel).arg(tenths)));
+                }
             }
         }
     }
-}
 
-void ControllerMessageTest::aCheckOfZeroEndsTheMessage()
-{
-    char buffer[16] = "abab";
-    QVERIFY(ControllerMessage::appendBlockCheck(buffer, 16));
-    QCOMPARE(QByteArray(buffer), QByteArray("abab"));
-}
-
-void ControllerMessageTest::theCheckNeedsRoom_data()
-{
-    QTest::addColumn<int>("size");
-    QTest::addColumn<bool>("fits");
-    for (int size = -1; size <= 8; ++size) {
-        QTest::newRow(qPrintable(QString::number(size))) << size << (size >= 5);
+    void aCheckOfZeroEndsTheMessage()
+    {
+        char buffer[16] = "abab";
+        QVERIFY(ControllerMessage::appendBlockCheck(buffer, 16));
+        QCOMPARE(QByteArray(buffer), QByteArray("abab"));
     }
-}
 
-void ControllerMessageTest::theCheckNeedsRoom()
-{
-    QFETCH(int, size);
-    QFETCH(bool, fits);
-    char buffer[16] = "abc\0????";
-    QCOMPARE(ControllerMessage::appendBlockCheck(buffer, size), fits);
-    const QByteArray expected = fits ? QByteArray("abc`\0???", 8) : QByteArray("abc\0????", 8);
-    QCOMPARE(QByteArray(buffer, 8), expected);
-}
+    void theCheckNeedsRoom_data()
+    {
+        QTest::addColumn<int>("size");
+        QTest::addColumn<bool>("fits");
+        for (int size = -1; size <= 8; ++size) {
+            QTest::newRow(qPrintable(QString::number(size))) << size << (size >= 5);
+        }
+    }
 
-void ControllerMessageTest::aMessageWithoutAnEndGetsNoCheck()
-{
-    char buffer[8];
-    std::memset(buffer, 'x', sizeof(buffer));
-    QVERIFY(!ControllerMessage::appendBlockCheck(buffer, 8));
-    QCOMPARE(QByteArray(buffer, 8), QByteArray(8, 'x'));
-}
+    void theCheckNeedsRoom()
+    {
+        QFETCH(int, size);
+        QFETCH(bool, fits);
+        char buffer[16] = "abc\0????";
+        QCOMPARE(ControllerMessage::appendBlockCheck(buffer, size), fits);
+        const QByteArray expected = fits ? QByteArray("abc`\0???", 8) : QByteArray("abc\0????", 8);
+        QCOMPARE(QByteArray(buffer, 8), expected);
+    }
 
-void ControllerMessageTest::acceptedReplies_data()
-{
-    QTest::addColumn<QByteArray>("line");
-    QTest::addColumn<bool>("accepted");
-    QTest::newRow("11 bytes") << QByteArray("01M 0512.3E") << true;
-    QTest::newRow("11 bytes of anything") << QByteArray("hello world") << true;
-    QTest::newRow("ER") << QByteArray("ER") << true;
-    QTest::newRow("empty") << QByteArray() << false;
-    QTest::newRow("another two") << QByteArray("OK") << false;
-    QTest::newRow("er") << QByteArray("er") << false;
-    QTest::newRow("10 bytes") << QByteArray("01M 0512.3") << false;
-    QTest::newRow("12 bytes") << QByteArray("01M 00512.3E") << false;
-    QTest::newRow("an acknowledgement") << QByteArray("\x06") << false;
-}
+    void aMessageWithoutAnEndGetsNoCheck()
+    {
+        char buffer[8];
+        std::memset(buffer, 'x', sizeof(buffer));
+        QVERIFY(!ControllerMessage::appendBlockCheck(buffer, 8));
+        QCOMPARE(QByteArray(buffer, 8), QByteArray(8, 'x'));
+    }
 
-void ControllerMessageTest::acceptedReplies()
-{
-    QFETCH(QByteArray, line);
-    QFETCH(bool, accepted);
-    QCOMPARE(ControllerMessage::isReply(line.size(), line), accepted);
-}
+    void acceptedReplies_data()
+    {
+        QTest::addColumn<QByteArray>("line");
+        QTest::addColumn<bool>("accepted");
+        QTest::newRow("11 bytes") << QByteArray("01M 0512.3E") << true;
+        QTest::newRow("11 bytes of anything") << QByteArray("hello world") << true;
+        QTest::newRow("ER") << QByteArray("ER") << true;
+        QTest::newRow("empty") << QByteArray() << false;
+        QTest::newRow("another two") << QByteArray("OK") << false;
+        QTest::newRow("er") << QByteArray("er") << false;
+        QTest::newRow("10 bytes") << QByteArray("01M 0512.3") << false;
+        QTest::newRow("12 bytes") << QByteArray("01M 00512.3E") << false;
+        QTest::newRow("an acknowledgement") << QByteArray("\x06") << false;
+    }
 
-void ControllerMessageTest::shownValues_data()
-{
-    QTest::addColumn<QByteArray>("reply");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("a blank first") << QByteArray("01M 0512.3E") << QStringLiteral("512.3");
-    QTest::newRow("a blank last") << QByteArray("01M0512.3 E") << QStringLiteral("512.3");
-    QTest::newRow("no trailing zeros") << QByteArray("01M0500.00E") << QStringLiteral("500");
-    QTest::newRow("two decimals") << QByteArray("01M0023.45E") << QStringLiteral("23.45");
-    QTest::newRow("negative") << QByteArray("01M-012.50E") << QStringLiteral("-12.5");
-    QTest::newRow("six significant digits") << QByteArray("01M1234.56E") << QStringLiteral("1234.56");
-    QTest::newRow("seven become six") << QByteArray("01M1234567E") << QStringLiteral("1.23457e+06");
-    QTest::newRow("zero") << QByteArray("01M0000.00E") << QStringLiteral("0");
-    QTest::newRow("not a number") << QByteArray("hello world") << QStringLiteral("0");
-    QTest::newRow("junk behind the number") << QByteArray("01M12.3abcE") << QStringLiteral("0");
-    QTest::newRow("ER") << QByteArray("ER") << QStringLiteral("----.-");
-    QTest::newRow("nothing yet") << QByteArray() << QStringLiteral("0");
-}
+    void acceptedReplies()
+    {
+        QFETCH(QByteArray, line);
+        QFETCH(bool, accepted);
+        QCOMPARE(ControllerMessage::isReply(line.size(), line), accepted);
+    }
 
-void ControllerMessageTest::shownValues()
-{
-    QFETCH(QByteArray, reply);
-    QFETCH(QString, shown);
-    QCOMPARE(ControllerMessage::shownValue(reply), shown);
-}
+    void shownValues_data()
+    {
+        QTest::addColumn<QByteArray>("reply");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("a blank first") << QByteArray("01M 0512.3E") << "512.3"_s;
+        QTest::newRow("a blank last") << QByteArray("01M0512.3 E") << "512.3"_s;
+        QTest::newRow("no trailing zeros") << QByteArray("01M0500.00E") << "500"_s;
+        QTest::newRow("two decimals") << QByteArray("01M0023.45E") << "23.45"_s;
+        QTest::newRow("negative") << QByteArray("01M-012.50E") << "-12.5"_s;
+        QTest::newRow("six significant digits") << QByteArray("01M1234.56E") << "1234.56"_s;
+        QTest::newRow("seven become six") << QByteArray("01M1234567E") << "1.23457e+06"_s;
+        QTest::newRow("zero") << QByteArray("01M0000.00E") << "0"_s;
+        QTest::newRow("not a number") << QByteArray("hello world") << "0"_s;
+        QTest::newRow("junk behind the number") << QByteArray("01M12.3abcE") << "0"_s;
+        QTest::newRow("ER") << QByteArray("ER") << "----.-"_s;
+        QTest::newRow("nothing yet") << QByteArray() << "0"_s;
+    }
+
+    void shownValues()
+    {
+        QFETCH(QByteArray, reply);
+        QFETCH(QString, shown);
+        QCOMPARE(ControllerMessage::shownValue(reply), shown);
+    }
+};
 
 NELVO_TEST_MAIN(ControllerMessageTest)
-
 #include "controllermessage.moc"
