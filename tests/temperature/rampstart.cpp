@@ -189,7 +189,7 @@ private slots:
         station->pressRun(0, target, "10"_s);
         QVERIFY(station->isRamping(0));
         QCOMPARE(station->statusBar(), told);
-        station->window->statusBar()->clearMessage();
+        station->window().statusBar()->clearMessage();
         DrivenClock::advance(1);
         QVERIFY(station->round());
         QCOMPARE(station->statusBar(), told);
