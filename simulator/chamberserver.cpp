@@ -12,6 +12,7 @@ namespace {
 constexpr qint64 mostUnsent = 0x100000;
 constexpr qint64 chunkSize = 0x10000;
 constexpr int successorPatienceMs = 100;
+constexpr quint64 jitterStream = 2000;
 
 QByteArray place(const QHostAddress& address, quint16 port)
 {
@@ -27,6 +28,7 @@ ChamberServer::ChamberServer(const Options& chosen, EventSink sink)
     , log(std::move(sink))
     , rack(chosen.seed)
     , faults(chosen.faultRates, chosen.seed)
+    , jitter(chosen.seed, jitterStream)
 {
     clock.start();
     dueTimer.setSingleShot(true);
@@ -124,7 +126,7 @@ void ChamberServer::take(const AdapterLine& line)
 void ChamberServer::deliver(const Rack::Outcome& outcome)
 {
     if (!outcome.fromInstrument) {
-        queue.push(outcome.reply + "\r\n", clock.elapsed());
+        queue.push(outcome.reply + "\r\n", clock.elapsed() + latencyMs());
         flush();
         return;
     }
@@ -148,14 +150,14 @@ void ChamberServer::obey(const Delivery& delivery)
         queue.clear();
         return;
     }
-    const qint64 nowMs = clock.elapsed();
+    const qint64 arrivalMs = clock.elapsed() + latencyMs();
     for (int i = 0; i < delivery.pieces.size(); ++i) {
         const Delivery::Piece& piece = delivery.pieces[i];
         const bool waits = delivery.waitsForNext && i == delivery.pieces.size() - 1;
         if (waits) {
-            queue.pushWaiting(piece.bytes, nowMs + piece.delayMs);
+            queue.pushWaiting(piece.bytes, arrivalMs + piece.delayMs);
         } else {
-            queue.push(piece.bytes, nowMs + piece.delayMs);
+            queue.push(piece.bytes, arrivalMs + piece.delayMs);
         }
     }
     flush();
@@ -187,6 +189,11 @@ void ChamberServer::releaseClient()
     dueTimer.stop();
     log("disconnected");
     emit clientLeft();
+}
+
+int ChamberServer::latencyMs()
+{
+    return qMax(0, options.latencyMs - options.jitterMs + jitter.below(2 * options.jitterMs + 1));
 }
 
 double ChamberServer::modelSec() const

@@ -57,11 +57,13 @@ private:
     void flush();
     void releaseClient();
     double modelSec() const;
+    int latencyMs();
 
     const Options options;
     const EventSink log;
     Rack rack;
     Faults faults;
+    RandomSource jitter;
     AdapterParser parser;
     SendQueue queue;
     QElapsedTimer clock;

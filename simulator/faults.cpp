@@ -95,11 +95,12 @@ Delivery Faults::decide(const QByteArray& line, int unit)
     }
 
     const QByteArray bytes = spoil(line, drawn, delivery) + "\r\n";
-    const int delayMs = strikes(FaultKind::Late, drawn, delivery)
+    int delayMs = strikes(FaultKind::Late, drawn, delivery)
         ? between(details(FaultKind::Late), leastLateMs, mostLateMs)
         : 0;
     if (strikes(FaultKind::Duplicate, drawn, delivery)) {
         delivery.pieces.append({bytes, delayMs});
+        delayMs += between(details(FaultKind::Duplicate), leastGapMs, mostGapMs);
     }
     if (strikes(FaultKind::Split, drawn, delivery)) {
         RandomSource& split = details(FaultKind::Split);

@@ -15,7 +15,7 @@ namespace Chamber {
 enum class FaultKind {
     Lost, ///< never arrives
     Late, ///< arrives after 0.2 to 5 s, and so does all that is behind it
-    Duplicate, ///< arrives twice
+    Duplicate, ///< arrives twice, 10 to 200 ms apart
     Garbled, ///< one byte is another
     Split, ///< arrives in two pieces, 10 to 200 ms apart
     Merged, ///< waits for the next reply and arrives in one piece with it, after 1 s at the latest

@@ -8,10 +8,13 @@ namespace Chamber {
 
 namespace {
 
+constexpr int longestLatencyMs = 60000;
+
 const QString listenName = QStringLiteral("listen");
 const QString portName = QStringLiteral("port");
 const QString seedName = QStringLiteral("seed");
 const QString timeScaleName = QStringLiteral("time-scale");
+const QString latencyName = QStringLiteral("latency");
 const QString faultOptionName = QStringLiteral("fault");
 const QString quietName = QStringLiteral("quiet");
 const QString onceName = QStringLiteral("once");
@@ -23,7 +26,7 @@ const char* const faultHelp
       "kinds.\n"
       "lost: never arrives\n"
       "late: 0.2 to 5 s late\n"
-      "duplicate: arrives twice\n"
+      "duplicate: arrives twice, 10 to 200 ms apart\n"
       "garbled: one byte is another\n"
       "split: in two pieces\n"
       "merged: in one piece with the next reply\n"
@@ -46,6 +49,9 @@ void defineOptions(QCommandLineParser& parser)
         {seedName, QStringLiteral("Determines noise and faults (1)."), QStringLiteral("n")},
         {timeScaleName, QStringLiteral("How many times faster cells warm up and cool down (1)."),
             QStringLiteral("x")},
+        {latencyName,
+            QStringLiteral("How long every reply takes in ms, give or take JITTER (5:2; 0 is at once)."),
+            QStringLiteral("ms[:jitter]")},
         {faultOptionName, QString::fromLatin1(faultHelp), QStringLiteral("kind=rate")},
         {quietName, QStringLiteral("Logs nothing but where it listens.")},
         {onceName, QStringLiteral("Ends when the first client has left.")},
@@ -89,6 +95,22 @@ QString readTimeScale(const QString& value, Options& options)
         : wrongValue(timeScaleName, value, QStringLiteral("a number above 0"));
 }
 
+QString readLatency(const QString& value, Options& options)
+{
+    const QStringList parts = value.split(QLatin1Char(':'));
+    bool isLatency = false;
+    bool isJitter = true;
+    const int latencyMs = parts[0].toInt(&isLatency);
+    const int jitterMs = parts.size() > 1 ? parts[1].toInt(&isJitter) : 0;
+    const auto isPossible = [](int ms) { return ms >= 0 && ms <= longestLatencyMs; };
+    if (parts.size() > 2 || !isLatency || !isJitter || !isPossible(latencyMs) || !isPossible(jitterMs)) {
+        return wrongValue(latencyName, value, QStringLiteral("MS or MS:JITTER, each from 0 to 60000,"));
+    }
+    options.latencyMs = latencyMs;
+    options.jitterMs = jitterMs;
+    return {};
+}
+
 QString readFaults(const QStringList& values, Options& options)
 {
     std::array<bool, faultKindCount> given = {};
@@ -124,6 +146,7 @@ QString readValues(const QCommandLineParser& parser, Options& options)
         {portName, &readPort},
         {seedName, &readSeed},
         {timeScaleName, &readTimeScale},
+        {latencyName, &readLatency},
     };
     for (const auto& reader : readers) {
         const QStringList values = parser.values(reader.first);

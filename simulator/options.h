@@ -15,6 +15,8 @@ struct Options
     quint16 port = 1234; ///< 0 takes a free one
     quint64 seed = 1; ///< of noise and faults
     double timeScale = 1.0; ///< seconds of the thermal model in one real second; more than 0
+    int latencyMs = 5; ///< how long a reply takes, give or take jitterMs, but never less than 0
+    int jitterMs = 2;
     FaultRates faultRates = {};
     bool quiet = false; ///< log nothing but where it listens
     bool once = false; ///< end when the first client has left

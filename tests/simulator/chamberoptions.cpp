@@ -37,6 +37,8 @@ private slots:
         QCOMPARE(commandLine.options.port, quint16(1234));
         QCOMPARE(commandLine.options.seed, quint64(1));
         QCOMPARE(commandLine.options.timeScale, 1.0);
+        QCOMPARE(commandLine.options.latencyMs, 5);
+        QCOMPARE(commandLine.options.jitterMs, 2);
         QCOMPARE(commandLine.options.faultRates, FaultRates());
         QVERIFY(!commandLine.options.quiet);
         QVERIFY(!commandLine.options.once);
@@ -44,19 +46,28 @@ private slots:
 
     void everyOptionIsRead()
     {
-        const CommandLine commandLine
-            = read(words("--listen 127.0.0.7 --port 0 --seed 18446744073709551615 --time-scale 60.5 "
-                         "--fault late=0.25 --fault=wrong-length=1 --quiet --once"));
+        const CommandLine commandLine = read(words(
+            "--listen 127.0.0.7 --port 0 --seed 18446744073709551615 --time-scale 60.5 --latency 150:20 "
+            "--fault late=0.25 --fault=wrong-length=1 --quiet --once"));
         QCOMPARE(commandLine.error, QString());
         QCOMPARE(commandLine.options.listenAddress.toString(), QStringLiteral("127.0.0.7"));
         QCOMPARE(commandLine.options.port, quint16(0));
         QCOMPARE(commandLine.options.seed, ~quint64(0));
         QCOMPARE(commandLine.options.timeScale, 60.5);
+        QCOMPARE(commandLine.options.latencyMs, 150);
+        QCOMPARE(commandLine.options.jitterMs, 20);
         QCOMPARE(rateOf(commandLine.options, FaultKind::Late), 0.25);
         QCOMPARE(rateOf(commandLine.options, FaultKind::WrongLength), 1.0);
         QCOMPARE(rateOf(commandLine.options, FaultKind::Lost), 0.0);
         QVERIFY(commandLine.options.quiet);
         QVERIFY(commandLine.options.once);
+    }
+
+    void aLatencyAloneHasNoJitter()
+    {
+        const Options options = read(words("--latency 0")).options;
+        QCOMPARE(options.latencyMs, 0);
+        QCOMPARE(options.jitterMs, 0);
     }
 
     void badOptionsAreToldInOneLine_data()
@@ -81,6 +92,11 @@ private slots:
         row("--time-scale -2", "--time-scale '-2'");
         row("--time-scale nan", "--time-scale 'nan'");
         row("--time-scale inf", "--time-scale 'inf'");
+        row("--latency fast", "--latency 'fast'");
+        row("--latency -1", "--latency '-1'");
+        row("--latency 5:", "--latency '5:'");
+        row("--latency 5:2:1", "--latency '5:2:1'");
+        row("--latency 60001", "--latency '60001'");
         row("--fault late", "--fault 'late'");
         row("--fault sometimes=0.1", "--fault 'sometimes=0.1'");
         row("--fault late=1.1", "--fault 'late=1.1'");
@@ -103,8 +119,8 @@ private slots:
     {
         const CommandLine commandLine = read({QStringLiteral("--help")});
         QCOMPARE(commandLine.error, QString());
-        for (const char* option : {"--listen", "--port", "--seed", "--time-scale", "--fault", "--quiet",
-                 "--once", "--help", "--version"}) {
+        for (const char* option : {"--listen", "--port", "--seed", "--time-scale", "--latency", "--fault",
+                 "--quiet", "--once", "--help", "--version"}) {
             QVERIFY2(commandLine.text.contains(QLatin1String(option)), option);
         }
         for (int kind = 0; kind < faultKindCount; ++kind) {

@@ -22,8 +22,9 @@ QByteArray readRequest(int unit)
 class RunningChamber
 {
 public:
-    explicit RunningChamber(FaultKind kind = FaultKind::Lost, double rate = 0.0)
-        : server(optionsWith(kind, rate), [this](const QByteArray& event) { events.append(event); })
+    explicit RunningChamber(FaultKind kind = FaultKind::Lost, double rate = 0.0, int latencyMs = 0)
+        : server(
+            optionsWith(kind, rate, latencyMs), [this](const QByteArray& event) { events.append(event); })
     {
         if (!server.listen()) {
             qFatal("cannot listen: %s", qPrintable(server.errorString()));
@@ -34,11 +35,13 @@ public:
     ChamberServer server;
 
 private:
-    static Options optionsWith(FaultKind kind, double rate)
+    static Options optionsWith(FaultKind kind, double rate, int latencyMs)
     {
         Options options;
         options.port = 0;
         options.seed = 2; // its first late reply is only a little late
+        options.latencyMs = latencyMs;
+        options.jitterMs = latencyMs / 4;
         options.faultRates[static_cast<size_t>(kind)] = rate;
         return options;
     }
@@ -198,6 +201,33 @@ private slots:
         next.socket.write("\n++addr\n");
         QVERIFY(next.gets(1));
         QCOMPARE(next.received, QByteArray("0\r\n"));
+    }
+
+    void everyReplyTakesItsLatency()
+    {
+        RunningChamber chamber(FaultKind::Lost, 0.0, 80);
+        Client client(chamber);
+        for (const QByteArray& request :
+            {QByteArray("++eos\n"), toTemperatures + readRequest(1), readRequest(2)}) {
+            const int before = client.received.count('\n');
+            QElapsedTimer timer;
+            timer.start();
+            client.socket.write(request);
+            QVERIFY(client.gets(before + 1));
+            QVERIFY2(timer.elapsed() >= 59, qPrintable(QString::number(timer.elapsed())));
+        }
+    }
+
+    void theCopyOfADuplicateComesByItself()
+    {
+        RunningChamber chamber(FaultKind::Duplicate, 1.0);
+        Client client(chamber);
+        QList<int> portions;
+        connect(
+            &client.socket, &QTcpSocket::readyRead, this, [&] { portions.append(client.received.size()); });
+        client.socket.write(toTemperatures + readRequest(1));
+        QVERIFY(client.gets(2));
+        QCOMPARE(portions, QList<int>({13, 26}));
     }
 
     void aLateReplyIsLateAndKeepsBackWhatFollows()
