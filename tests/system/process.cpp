@@ -71,6 +71,12 @@ QString Process::output()
     return collected;
 }
 
+void Process::forget()
+{
+    read();
+    collected.clear();
+}
+
 void Process::read()
 {
     // Takes in what has arrived; without an event loop nothing else would.

@@ -27,7 +27,8 @@ public:
 
     bool isRunning();
     QString output();
-    void forget() { collected.clear(); }
+    /// Forgets the output so far.
+    void forget();
 
 private:
     void read();

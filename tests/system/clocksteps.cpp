@@ -1,0 +1,172 @@
+// The system's clock is set while the program runs, an hour forward or back: no set point and no step is
+// moved.
+
+#include "support/files.h"
+#include "support/scriptedadapter.h"
+#include "support/testmain.h"
+#include "support/testtext.h"
+#include "system/handledstation.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+
+using namespace TestText;
+
+namespace {
+
+const QString stepFile = "faketime"_s;
+const QByteArray header = "0\t0\t0\t0\t0\t0\t0\t0\t0\t0\t";
+
+void setClockBy(int seconds)
+{
+    putFile(stepFile, (seconds < 0 ? "" : "+") + QByteArray::number(seconds) + '\n');
+}
+
+QStringList steppedClock()
+{
+#ifdef FAKETIME_LIBRARY
+    return {"LD_PRELOAD=" FAKETIME_LIBRARY ""_s, "FAKETIME_NO_CACHE=1"_s, "FAKETIME_DONT_FAKE_MONOTONIC=1"_s,
+        "FAKETIME_TIMESTAMP_FILE="_s + QDir::current().filePath(stepFile),
+        // The sanitizers want to be loaded first and may be second here.
+        "ASAN_OPTIONS=verify_asan_link_order=0"_s};
+#else
+    return {};
+#endif
+}
+
+int recordLines()
+{
+    return fileText("TemperatureRec.dat"_s).count('\n');
+}
+
+// When the chamber's shutters moved, in s.
+QVector<double> shutterTimes(const QString& log)
+{
+    static const QRegularExpression event("^([0-9.]+) shutters "_s, QRegularExpression::MultilineOption);
+    QVector<double> times;
+    for (auto found = event.globalMatch(log); found.hasNext();) {
+        times.append(found.next().captured(1).toDouble());
+    }
+    return times;
+}
+
+} // namespace
+
+class ClockStepsTest : public QObject
+{
+    Q_OBJECT
+
+    // Sets the clock and waits for signs of life: three more records and an answer from the window.
+    void step(int seconds)
+    {
+        const qint64 before = station->systemClockMs();
+        setClockBy(seconds);
+        QVERIFY(qAbs(station->systemClockMs() - before) > 3500000);
+        const int lines = recordLines();
+        QVERIFY(station->process().waitFor([lines](const QString&) { return recordLines() >= lines + 3; }));
+        QVERIFY(station->answers());
+    }
+
+    std::unique_ptr<Process> chamber;
+    std::unique_ptr<HandledStation> station;
+
+private slots:
+    void init()
+    {
+#ifndef FAKETIME_LIBRARY
+        QSKIP("needs libfaketime");
+#endif
+        setClockBy(0);
+        chamber = std::make_unique<Process>(
+            QStringLiteral(CHAMBERSIM_PROGRAM), QStringList{"--listen"_s, ownLoopbackAddress()});
+        QVERIFY(chamber->waitForText("listening "_s));
+        station = std::make_unique<HandledStation>(steppedClock());
+        QVERIFY(station->isUp());
+        // Temperatures are known, so that ramps start from them.
+        QVERIFY(station->process().waitFor([](const QString&) { return recordLines() > 1; }));
+    }
+
+    void cleanup()
+    {
+        station.reset();
+        chamber.reset();
+        QFile::remove("TemperatureRec.dat"_s);
+        QFile::remove("NelvoCurrentStat.dat"_s);
+    }
+
+    void aRampSendsNoSetPointEarly_data()
+    {
+        QTest::addColumn<int>("seconds");
+        QTest::newRow("an hour forward") << 3600;
+        QTest::newRow("an hour back") << -3600;
+    }
+
+    void aRampSendsNoSetPointEarly()
+    {
+        QFETCH(int, seconds);
+        station->type("TDeg01"_s, "400"_s);
+        station->type("DTime01"_s, "10"_s);
+        station->click("RunT01"_s);
+        QVERIFY(chamber->waitForText("setpoint 01"_s));
+        step(seconds);
+        QCOMPARE(chamber->output().count("setpoint"_s), 1);
+        QCOMPARE(station->text("RunT01"_s), "Stop"_s);
+        // Its elapsed time goes on from where it was.
+        const double minutes = station->text("ETime01"_s).toDouble();
+        QVERIFY2(minutes >= 0.01 && minutes < 0.9, qPrintable(station->text("ETime01"_s)));
+    }
+
+    void aProgramKeepsItsSteps_data()
+    {
+        aRampSendsNoSetPointEarly_data();
+    }
+
+    void aProgramKeepsItsSteps()
+    {
+        QFETCH(int, seconds);
+        QByteArray program;
+        for (int k = 0; k < 8; ++k) {
+            program += header + (k % 2 == 0 ? "1" : "0") + "\t0\t0\t0\t0\t0\t0\t1\t---NoGroup---\t1\n";
+        }
+        putFile("steps.dat"_s, program);
+        station->load("steps.dat"_s);
+        chamber->forget();
+        station->click("ProgRun"_s);
+        QVERIFY(chamber->waitForText("shutters "_s, 2));
+        step(seconds);
+        QVERIFY(chamber->waitForText("shutters "_s, 8));
+        const QVector<double> times = shutterTimes(chamber->output());
+        for (int k = 1; k < times.size(); ++k) {
+            QVERIFY2(times[k] - times[k - 1] > 0.9, qPrintable(chamber->output()));
+        }
+        QVERIFY(station->process().waitFor(
+            [this](const QString&) { return station->text("ProgRun"_s) == "Run"_s; }));
+    }
+
+    void aHoldGoesOnWaiting_data()
+    {
+        aRampSendsNoSetPointEarly_data();
+    }
+
+    void aHoldGoesOnWaiting()
+    {
+        QFETCH(int, seconds);
+        putFile("hold.dat"_s,
+            header + "1\t0\t0\t0\t0\t0\t0\t-1\t---NoGroup---\t1\n" + header
+                + "0\t1\t0\t0\t0\t0\t0\t60\t---NoGroup---\t1\n");
+        station->load("hold.dat"_s);
+        chamber->forget();
+        station->click("ProgRun"_s);
+        QVERIFY(chamber->waitForText("shutters oxxxxxx"_s));
+        step(seconds);
+        QCOMPARE(station->text("ProgPause"_s), "Resume"_s);
+        QCOMPARE(chamber->output().count("shutters"_s), 1);
+        station->click("ProgPause"_s);
+        QVERIFY(chamber->waitForText("shutters xoxxxxx"_s));
+        QCOMPARE(station->text("ProgRun"_s), "Stop"_s);
+    }
+};
+
+NELVO_TEST_MAIN(ClockStepsTest)
+#include "clocksteps.moc"

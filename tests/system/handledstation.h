@@ -1,0 +1,40 @@
+#pragma once
+
+#include "system/process.h"
+
+#include <QLocalServer>
+#include <QLocalSocket>
+
+#include <memory>
+
+/// The program Nelvo as it is shipped, run for a test with an operator's hands in it (hands/): clicks, keys
+/// and looks from outside of its process.
+class HandledStation
+{
+public:
+    /// Starts it at the adapter of ownLoopbackAddress(), in English, in the working directory of the test.
+    explicit HandledStation(const QStringList& environment = {});
+
+    /// False when its window does not come up within 20 s.
+    bool isUp();
+    /// A sign of life: the window answers.
+    bool answers();
+
+    void click(const QString& name) { ask({QStringLiteral("click"), name}); }
+    void type(const QString& name, const QString& text) { ask({QStringLiteral("type"), name, text}); }
+    void load(const QString& fname) { ask({QStringLiteral("load"), fname}); }
+    QString text(const QString& name) { return ask({QStringLiteral("text"), name}); }
+    QString style(const QString& name) { return ask({QStringLiteral("style"), name}); }
+    QString status() { return ask({QStringLiteral("status")}); }
+    /// What the system's clock says in the station's process, ms since the epoch.
+    qint64 systemClockMs() { return ask({QStringLiteral("clock")}).toLongLong(); }
+    Process& process() { return *nelvo; }
+
+private:
+    QString ask(const QStringList& words);
+    bool tryToAsk(const QStringList& words, QString& answer);
+
+    QLocalServer server;
+    std::unique_ptr<Process> nelvo;
+    QLocalSocket* hands = nullptr;
+};
