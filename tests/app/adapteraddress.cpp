@@ -1,3 +1,5 @@
+// Which host the adapter is looked for at.
+
 #include "app/adapteraddress.h"
 
 #include "support/testmain.h"

@@ -25,7 +25,7 @@ const char* const cells = "gridLayout_2";
 const char* const shutters = "gridLayout";
 const char* const bar = "horizontalLayout_2";
 
-/// A row of like widgets, "SName01" and on: `first` to `last` lie side by side from `column`.
+// A row of like widgets, "SName01" and on: `first` to `last` lie side by side from `column`.
 struct Series
 {
     const char* prefix;

@@ -1,3 +1,5 @@
+// The language that the command line and the program's name choose.
+
 #include "app/language.h"
 
 #include "support/testmain.h"

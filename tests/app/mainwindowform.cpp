@@ -23,7 +23,7 @@ struct BuiltForm
     BuiltForm() { form.setupUi(&window); }
 };
 
-/// Answers every text of the form's context with the same text in brackets.
+// Answers every text of the form's context with the same text in brackets.
 class BracketTranslator : public QTranslator
 {
 public:

@@ -1,3 +1,5 @@
+// The walk through blocks and repeats.
+
 #include "program/blockcursor.h"
 
 #include "support/testmain.h"

@@ -2,6 +2,7 @@
 
 #include "program/livetable.h"
 
+#include "support/eventcount.h"
 #include "support/paintcount.h"
 #include "support/testmain.h"
 
@@ -9,25 +10,6 @@
 #include <QVBoxLayout>
 
 using namespace TestText;
-
-namespace {
-
-// Counts the polishing of a widget.
-class Polished : public QObject
-{
-public:
-    explicit Polished(QWidget& widget) { widget.installEventFilter(this); }
-    int count = 0;
-
-protected:
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        count += event->type() == QEvent::Polish ? 1 : 0;
-        return false;
-    }
-};
-
-} // namespace
 
 class LiveTableTest : public QObject
 {
@@ -37,14 +19,14 @@ private slots:
     void onlyTheTablesPolishWaits()
     {
         QWidget earlier;
-        const Polished earlierPolished(earlier);
+        const EventCount earlierPolished(earlier, QEvent::Polish);
         QWidget table;
         QWidget* row = nullptr;
         {
             const LatePolish late;
             row = new QWidget(&table);
         }
-        const Polished rowPolished(*row);
+        const EventCount rowPolished(*row, QEvent::Polish);
         QCoreApplication::processEvents();
         QCOMPARE(earlierPolished.count, 1);
         QCOMPARE(rowPolished.count, 0);

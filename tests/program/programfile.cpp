@@ -1,3 +1,5 @@
+// The program file's lines, written and read.
+
 #include "program/programfile.h"
 
 #include "support/testmain.h"
