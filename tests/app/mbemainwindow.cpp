@@ -2,7 +2,7 @@
 
 #include "app/formtable.h"
 #include "support/files.h"
-#include "support/station.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
 #include <QAbstractButton>
@@ -11,16 +11,11 @@
 
 using namespace TestText;
 
-class MBEMainWindowTest : public QObject
+class MBEMainWindowTest : public StationTest
 {
     Q_OBJECT
 
-    std::unique_ptr<Station> station;
-
 private slots:
-    void init() { station = std::make_unique<Station>(); }
-    void cleanup() { station.reset(); }
-
     void keepsTheFormsPlaces()
     {
         QVERIFY(station->open());

@@ -1,35 +1,18 @@
 // What the link sends, byte for byte.
 
-#include "gpib/gpib.h"
-
-#include "app/adapteraddress.h"
-#include "support/scriptedadapter.h"
+#include "support/linktest.h"
 #include "support/testmain.h"
 
-#include <memory>
-
-class GpibTest : public QObject
+class GpibTest : public LinkTest
 {
     Q_OBJECT
 
-    std::unique_ptr<ScriptedAdapter> adapter;
-    std::unique_ptr<GPIB> gpib;
-
 private slots:
-    void init()
-    {
-        adapter = std::make_unique<ScriptedAdapter>();
-        gpib = std::make_unique<GPIB>();
-        gpib->connectAdapter(adapter->address(), adapterPort);
-        QVERIFY(adapter->expect("++eoi\n"));
-    }
-
     void cleanup()
     {
         // Whatever a test did not ask for would stand here.
         const bool isQuiet = QTest::currentTestFailed() || adapter->expectNothing();
-        gpib.reset();
-        adapter.reset();
+        LinkTest::cleanup();
         QVERIFY(isQuiet);
     }
 

@@ -1,14 +1,9 @@
 // What the link makes of the bytes that come back.
 
-#include "gpib/gpib.h"
-
-#include "app/adapteraddress.h"
-#include "support/scriptedadapter.h"
+#include "support/linktest.h"
 #include "support/testmain.h"
 
-#include <memory>
-
-class GpibReplyTest : public QObject
+class GpibReplyTest : public LinkTest
 {
     Q_OBJECT
 
@@ -24,17 +19,12 @@ class GpibReplyTest : public QObject
         return lines;
     }
 
-    std::unique_ptr<ScriptedAdapter> adapter;
-    std::unique_ptr<GPIB> gpib;
     std::unique_ptr<QSignalSpy> spy;
 
 private slots:
     void init()
     {
-        adapter = std::make_unique<ScriptedAdapter>();
-        gpib = std::make_unique<GPIB>();
-        gpib->connectAdapter(adapter->address(), adapterPort);
-        QVERIFY(adapter->expect("++eoi\n"));
+        LinkTest::init();
         spy = std::make_unique<QSignalSpy>(gpib.get(), SIGNAL(dataReady(int, QByteArray)));
         QVERIFY(spy->isValid());
     }
@@ -42,8 +32,7 @@ private slots:
     void cleanup()
     {
         spy.reset();
-        gpib.reset();
-        adapter.reset();
+        LinkTest::cleanup();
     }
 
     void lines_data()

@@ -1,28 +1,16 @@
 // Starting, pausing, holding and stopping a program, as its labels and buttons show it.
 
 #include "support/paintcount.h"
-#include "support/station.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
 using namespace TestText;
 
-class PlayerTest : public QObject
+class PlayerTest : public OpenStationTest
 {
     Q_OBJECT
 
-    ProgramTab& program() { return station->program(); }
-
-    std::unique_ptr<Station> station;
-
 private slots:
-    void init()
-    {
-        station = std::make_unique<Station>();
-        QVERIFY(station->open());
-    }
-
-    void cleanup() { station.reset(); }
-
     void emptyTableStopsOnTheFirstTick()
     {
         program().click("Run");

@@ -1,27 +1,15 @@
 // The player's way through groups and repeats, and the total time, as the labels show them.
 
-#include "support/station.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
 using namespace TestText;
 
-class PlayerWalkTest : public QObject
+class PlayerWalkTest : public OpenStationTest
 {
     Q_OBJECT
 
-    ProgramTab& program() { return station->program(); }
-
-    std::unique_ptr<Station> station;
-
 private slots:
-    void init()
-    {
-        station = std::make_unique<Station>();
-        QVERIFY(station->open());
-    }
-
-    void cleanup() { station.reset(); }
-
     void groupIsPlayedThreeTimes()
     {
         program().enter(0, "0.5"_s, "A"_s, "3"_s);

@@ -1,7 +1,7 @@
 // The dialogs that choose a program's file.
 
 #include "support/files.h"
-#include "support/station.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
 #include <QApplication>
@@ -31,11 +31,9 @@ QFileDialog* dialogNamed(const char* name)
 
 } // namespace
 
-class ProgramDialogsTest : public QObject
+class ProgramDialogsTest : public SharedStationTest
 {
     Q_OBJECT
-
-    ProgramTab& program() { return station->program(); }
 
     void choose(const char* dialogName, const QString& fname)
     {
@@ -46,17 +44,7 @@ class ProgramDialogsTest : public QObject
         QTRY_VERIFY(!dialog->isVisible());
     }
 
-    // One window for all: building it is the larger part of a test.
-    std::unique_ptr<Station> station;
-
 private slots:
-    void initTestCase()
-    {
-        station = std::make_unique<Station>();
-        QVERIFY(station->open());
-    }
-
-    void cleanupTestCase() { station.reset(); }
     void init() { program().click("Clear"); }
 
     void dialogsAreReadyAndHidden()

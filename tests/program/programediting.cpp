@@ -2,7 +2,7 @@
 
 #include "program/numberedsteps.h"
 #include "support/messagecapture.h"
-#include "support/station.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
 using namespace TestText;
@@ -13,25 +13,16 @@ constexpr int lastRow = ProgramTab::rows - 1;
 
 } // namespace
 
-class ProgramEditingTest : public QObject
+class ProgramEditingTest : public SharedStationTest
 {
     Q_OBJECT
-
-    ProgramTab& program() { return station->program(); }
-
-    // One window for all: building it is the larger part of a test. What a test leaves on the clip stays, so
-    // each puts there what it pastes.
-    std::unique_ptr<Station> station;
 
 private slots:
     void initTestCase()
     {
-        station = std::make_unique<Station>();
-        QVERIFY(station->open());
+        SharedStationTest::initTestCase();
         program().show();
     }
-
-    void cleanupTestCase() { station.reset(); }
 
     void init() { program().load(numberedSteps()); }
 

@@ -2,7 +2,7 @@
 
 #include "support/files.h"
 #include "support/messagecapture.h"
-#include "support/station.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
 #include <QDir>
@@ -18,24 +18,11 @@ QByteArray defaultLine(int k)
 
 } // namespace
 
-class ProgramFilesTest : public QObject
+class ProgramFilesTest : public SharedStationTest
 {
     Q_OBJECT
 
-    ProgramTab& program() { return station->program(); }
-
-    // One window for all: building it is the larger part of a test.
-    std::unique_ptr<Station> station;
-
 private slots:
-    void initTestCase()
-    {
-        station = std::make_unique<Station>();
-        QVERIFY(station->open());
-    }
-
-    void cleanupTestCase() { station.reset(); }
-
     void init() { program().click("Clear"); }
 
     void savedDefaultTableIsUnchangedWhenLoaded()

@@ -1,7 +1,7 @@
 // The program table as it comes up, its headings, its bar and its menus.
 
 #include "program/numberedsteps.h"
-#include "support/station.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
 #include <QSet>
@@ -32,24 +32,16 @@ private:
 
 } // namespace
 
-class ProgramTableTest : public QObject
+class ProgramTableTest : public SharedStationTest
 {
     Q_OBJECT
-
-    ProgramTab& program() { return station->program(); }
-
-    // One window for all: building it is the larger part of a test.
-    std::unique_ptr<Station> station;
 
 private slots:
     void initTestCase()
     {
-        station = std::make_unique<Station>();
-        QVERIFY(station->open());
+        SharedStationTest::initTestCase();
         program().show();
     }
-
-    void cleanupTestCase() { station.reset(); }
 
     void init() { program().click("Clear"); }
 

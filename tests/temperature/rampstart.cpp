@@ -1,7 +1,7 @@
 // What starts a ramp, what refuses it, and what the operator is told.
 
 #include "app/mbemain.h"
-#include "support/station.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
 #include <QElapsedTimer>
@@ -19,7 +19,7 @@ QString notCorrect(const char* minutes, const char* channel)
 
 } // namespace
 
-class RampStartTest : public QObject
+class RampStartTest : public StationTest
 {
     Q_OBJECT
 
@@ -31,12 +31,7 @@ class RampStartTest : public QObject
         return station->open() && station->round();
     }
 
-    std::unique_ptr<Station> station;
-
 private slots:
-    void init() { station = std::make_unique<Station>(); }
-    void cleanup() { station.reset(); }
-
     void aDurationThatIsNoneIsRefused_data()
     {
         QTest::addColumn<int>("channel");
