@@ -22,49 +22,37 @@ QString escaped(const QString& value)
     QString text;
     text.reserve(value.size());
     for (const QChar character : value) {
-        switch (character.unicode()) {
-        case '\\':
+        if (character == QLatin1Char('\\')) {
             text += QLatin1String("\\\\");
-            break;
-        case '\t':
-            text += QLatin1String("\\t");
-            break;
-        case '\n':
-            text += QLatin1String("\\n");
-            break;
-        case '\r':
-            text += QLatin1String("\\r");
-            break;
-        default:
+        } else if (character.unicode() < 0x20 || character.unicode() == 0x7F) {
+            text += QStringLiteral("\\x%1").arg(character.unicode(), 2, 16, QLatin1Char('0'));
+        } else {
             text += character;
         }
     }
     return text;
 }
 
-QString unescaped(const QString& text)
+std::optional<QString> unescaped(const QString& text)
 {
     QString value;
     value.reserve(text.size());
     for (int i = 0; i < text.size(); ++i) {
-        const bool isEscape = text[i] == QLatin1Char('\\') && i + 1 < text.size();
-        if (!isEscape) {
+        if (text[i] != QLatin1Char('\\')) {
             value += text[i];
             continue;
         }
-        ++i;
-        switch (text[i].unicode()) {
-        case 't':
-            value += QLatin1Char('\t');
-            break;
-        case 'n':
-            value += QLatin1Char('\n');
-            break;
-        case 'r':
-            value += QLatin1Char('\r');
-            break;
-        default:
-            value += text[i];
+        const QChar next = i + 1 < text.size() ? text[i + 1] : QChar();
+        bool isCode = false;
+        const int code = text.mid(i + 2, 2).toInt(&isCode, 16);
+        if (next == QLatin1Char('\\')) {
+            value += next;
+            i += 1;
+        } else if (next == QLatin1Char('x') && i + 4 <= text.size() && isCode) {
+            value += QChar(code);
+            i += 3;
+        } else {
+            return std::nullopt;
         }
     }
     return value;
@@ -129,10 +117,11 @@ std::optional<JournalLine> readJournalLine(const QByteArray& text)
     line.kind = words[2];
     for (const QString& word : words.mid(3)) {
         const int equals = word.indexOf(QLatin1Char('='));
-        if (equals <= 0) {
+        const std::optional<QString> value = unescaped(word.mid(equals + 1));
+        if (equals <= 0 || !value) {
             return std::nullopt;
         }
-        line.fields.append({word.left(equals), unescaped(word.mid(equals + 1))});
+        line.fields.append({word.left(equals), *value});
     }
     return line;
 }
