@@ -104,6 +104,7 @@ void ChamberServer::receive()
     while (client != nullptr && client->bytesAvailable() > 0
         && client->bytesToWrite() + queue.byteCount() <= mostUnsent) {
         const QByteArray chunk = client->read(chunkSize);
+        emit received(chunk);
         for (const AdapterLine& line : parser.feed(chunk)) {
             if (client == nullptr || halfOpen) {
                 break;
@@ -172,6 +173,7 @@ void ChamberServer::flush()
     const QByteArray due = queue.takeDue(clock());
     if (!due.isEmpty()) {
         client->write(due);
+        emit sent(due);
     }
     if (!queue.isEmpty()) {
         dueTimer.start(static_cast<int>(qMax<qint64>(0, queue.nextDueMs() - clock())));
