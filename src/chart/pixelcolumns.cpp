@@ -1,7 +1,5 @@
 #include "chart/pixelcolumns.h"
 
-#include "chart/prefetch.h"
-
 #include <algorithm>
 
 namespace {
@@ -18,7 +16,6 @@ public:
     // The column that begins at `first`, of the points before `end`, which belong to one stretch.
     PixelColumn column(int first, int end)
     {
-        fetchAhead(first, end);
         PixelColumn found;
         found.first = first;
         found.x = wholePixel(pixels.x(buffer.at(first).sec));
@@ -35,19 +32,6 @@ public:
 
 private:
     double row(double degC) const { return wholePixel(pixels.y(degC)); }
-
-    // Where the end of a column some way ahead is likely to be.
-    void fetchAhead(int first, int end) const
-    {
-        constexpr int columnsAhead = 8;
-        const qint64 likely = first + static_cast<qint64>(columnsAhead) * guess;
-        if (likely + 4 < end) {
-            const int index = static_cast<int>(likely);
-            prefetch(&buffer.at(index - 4));
-            prefetch(&buffer.at(index));
-            prefetch(&buffer.at(index + 4));
-        }
-    }
 
     // Whether a point at or after the column's first one is still in column `x`.
     bool inColumn(int index, double x) const
