@@ -1,4 +1,4 @@
-#include "chart/pointbuffer.h"
+#include "chart/lines/pointbuffer.h"
 #include "support/testmain.h"
 
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "chart/pointbuffer.h"
+#include "chart/lines/pointbuffer.h"
 
 #include <algorithm>
 #include <cmath>
