@@ -9,16 +9,12 @@ namespace {
 
 constexpr double penReach = 16.0; // no stroke further outside of the plot reaches into it
 
-class StrokeMaker
+struct StrokeMaker
 {
-public:
-    StrokeMaker(const PlotMapping& plotMapping, const CurvePen& curvePen, const QVector<M4Column>& m4)
-        : mapping(plotMapping)
-        , pen(curvePen)
-        , columns(m4)
-        , rowsInReach{plotMapping.top - penReach, plotMapping.bottom + penReach}
-    {
-    }
+    const PlotMapping& mapping;
+    const CurvePen& pen;
+    const QVector<M4Column>& columns;
+    CurveStrokes result;
 
     CurveStrokes strokes(const PointBuffer& points)
     {
@@ -35,12 +31,13 @@ public:
         return result;
     }
 
-private:
+    RowRange rowsInReach() const { return {mapping.top - penReach, mapping.bottom + penReach}; }
+
     // An upright line, or several with the same rows side by side.
     void addUprights(double x1, double x2, const RowRange& rows, double width)
     {
-        const double top = std::max(rows.top, rowsInReach.top);
-        const double bottom = std::min(rows.bottom, rowsInReach.bottom);
+        const double top = std::max(rows.top, rowsInReach().top);
+        const double bottom = std::min(rows.bottom, rowsInReach().bottom);
         if (bottom < top || x2 < mapping.left - penReach || x1 > mapping.right + penReach) {
             return;
         }
@@ -90,16 +87,10 @@ private:
         const double x = columns.at(i).x;
         const int neighbours = static_cast<int>(std::ceil(0.5 * (pen.dotWidth - pen.width)));
         const RowRange covered = sharedRows(columns, i - neighbours, i + neighbours);
-        for (const RowRange& rows : repeatedRows(points, mapping, columns.at(i), rowsInReach, covered)) {
+        for (const RowRange& rows : repeatedRows(points, mapping, columns.at(i), rowsInReach(), covered)) {
             addUprights(x, x, rows, pen.dotWidth);
         }
     }
-
-    const PlotMapping& mapping;
-    const CurvePen& pen;
-    const QVector<M4Column>& columns;
-    const RowRange rowsInReach;
-    CurveStrokes result;
 };
 
 } // namespace
@@ -109,5 +100,5 @@ CurveStrokes curveStrokes(
 {
     const bool eachAlone = pen.uprights == Uprights::NotGathered;
     const QVector<M4Column> columns = m4Columns(points, mapping, first, last, eachAlone);
-    return StrokeMaker(mapping, pen, columns).strokes(points);
+    return StrokeMaker{mapping, pen, columns, {}}.strokes(points);
 }

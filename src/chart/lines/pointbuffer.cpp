@@ -1,38 +1,7 @@
 #include "chart/lines/pointbuffer.h"
 
-#include <algorithm>
 #include <cmath>
-#include <limits>
-
-namespace {
-
-constexpr double infinite = std::numeric_limits<double>::infinity();
-constexpr ValueRange nothing{infinite, -infinite};
-
-bool finite(const TPoint& point)
-{
-    return std::isfinite(point.sec) && std::isfinite(point.degC);
-}
-
-void widen(ValueRange& range, double value)
-{
-    range.lowest = std::min(range.lowest, value);
-    range.highest = std::max(range.highest, value);
-}
-
-void widen(ValueRange& range, const ValueRange& other)
-{
-    range.lowest = std::min(range.lowest, other.lowest);
-    range.highest = std::max(range.highest, other.highest);
-}
-
-// The lowest value that a pair does not exceed and the highest that it does not fall below.
-ValueRange pairOf(double a, double b)
-{
-    return {std::max(a, b), std::min(a, b)};
-}
-
-} // namespace
+#include <vector>
 
 PointBuffer::PointBuffer(int maximum, int thinTarget, Mode mode)
     : maximumCount(std::max(maximum, 0))
@@ -43,80 +12,73 @@ PointBuffer::PointBuffer(int maximum, int thinTarget, Mode mode)
 
 void PointBuffer::append(const TPoint& point)
 {
-    store(point);
-    if (count <= maximumCount) {
-        return;
+    const qint64 place = firstPlace + size();
+    points.push_back(point);
+    if (place % blockSize == 0) {
+        blocks.push_back({});
     }
-    if (limitMode == ThinOut) {
-        thinOut();
-        return;
+    blocks.back().widen(point.degC, point.degC);
+    if (!followsOn(size() - 1)) {
+        stretchStarts.push_back(place);
     }
-    while (count > maximumCount) {
-        dropFirst();
+    if (size() > maximumCount) {
+        limitMode == ThinOut ? thinOut() : dropFirst();
     }
 }
 
-void PointBuffer::store(const TPoint& point)
+// Whether a point belongs to the stretch of the one before it.
+bool PointBuffer::followsOn(int index) const
 {
-    const bool ordered
-        = finite(point) && (count == 0 || (isFinite(count - 1) && point.sec >= at(count - 1).sec));
-    if (!ordered) {
-        stretchStarts.push_back(firstPlace + dropped + count);
-    }
-    if (pieces.isEmpty() || pieces.constLast().points.size() == pieceSize) {
-        Piece piece;
-        piece.points.reserve(pieceSize);
-        piece.blocks.reserve(pieceSize / blockSize);
-        piece.wideBlocks.reserve(pieceSize / wideBlockSize);
-        pieces.append(piece);
-    }
-    Piece& piece = pieces.last();
-    const ValueRange pair = count > 0 ? pairOf(at(count - 1).degC, point.degC) : nothing;
-    if (piece.points.size() % blockSize == 0) {
-        piece.blocks.append({point.degC, point.degC});
-    }
-    if (piece.points.size() % wideBlockSize == 0) {
-        piece.wideBlocks.append({{point.degC, point.degC}, pair});
-    }
-    widen(piece.blocks.last(), point.degC);
-    WideBlock& wide = piece.wideBlocks.last();
-    widen(wide.range, point.degC);
-    widen(wide.pairs, pair);
-    piece.points.append(point);
-    ++count;
+    return isFinite(index) && (index == 0 || (isFinite(index - 1) && at(index).sec >= at(index - 1).sec));
 }
 
 void PointBuffer::dropFirst()
 {
-    --count;
-    ++dropped;
-    if (dropped == pieceSize) {
-        pieces.removeFirst();
-        dropped = 0;
-        firstPlace += pieceSize;
+    points.pop_front();
+    ++firstPlace;
+    if (firstPlace % blockSize == 0) {
+        blocks.pop_front();
     }
-    while (!stretchStarts.empty() && stretchStarts.front() <= firstPlace + dropped) {
+    while (!stretchStarts.empty() && stretchStarts.front() <= firstPlace) {
         stretchStarts.pop_front();
     }
 }
 
-void PointBuffer::thinOut()
+void PointBuffer::prepend(const TPoint& point)
 {
-    const int surplus = std::min(count / 2, count - thinTargetCount);
-    PointBuffer kept(maximumCount, thinTargetCount, limitMode);
-    for (int i = 0; i < count; ++i) {
-        const bool goes = i % 2 == 1 && i / 2 < surplus;
-        if (!goes) {
-            kept.store(at(i));
+    points.push_front(point);
+    --firstPlace;
+    if ((firstPlace + 1) % blockSize == 0) {
+        blocks.push_front({});
+    }
+    if (firstPlace % blockSize == 0) { // nobody asks the first block before it is complete
+        blocks.front() = {};
+        for (int i = 0; i < std::min(blockSize, size()); ++i) {
+            blocks.front().widen(at(i).degC, at(i).degC);
         }
     }
-    *this = kept;
+    if (size() > 1 && !followsOn(1)) {
+        stretchStarts.push_front(firstPlace + 1);
+    }
+}
+
+// The work is that of the points taken out, however long the history is.
+void PointBuffer::thinOut()
+{
+    const int surplus = std::min(size() / 2, size() - thinTargetCount);
+    std::vector<TPoint> kept;
+    for (int i = 0; i < surplus; ++i) {
+        kept.push_back(at(0));
+        dropFirst();
+        dropFirst();
+    }
+    std::for_each(kept.rbegin(), kept.rend(), [this](const TPoint& point) { prepend(point); });
 }
 
 int PointBuffer::firstIndex(double sec) const
 {
     int low = 0;
-    int high = count;
+    int high = size();
     while (high - low >= 2) {
         const int middle = (low + high) / 2;
         if (at(middle).sec > sec) {
@@ -130,75 +92,46 @@ int PointBuffer::firstIndex(double sec) const
 
 int PointBuffer::lastIndex(int first, double sec) const
 {
+    const auto isNotLater = [sec](const TPoint& point) { return !(point.sec > sec); };
     int start = first + 1;
-    while (start < count) {
+    while (start < size()) {
         const int end = stretchEnd(start);
-        int low = start;
-        int high = end;
-        while (low < high) {
-            const int middle = (low + high) / 2;
-            if (at(middle).sec > sec) {
-                high = middle;
-            } else {
-                low = middle + 1;
-            }
-        }
-        if (low < end) {
-            return low;
+        const auto later = std::partition_point(points.begin() + start, points.begin() + end, isNotLater);
+        const int index = static_cast<int>(later - points.begin());
+        if (index < end) {
+            return index;
         }
         start = end;
     }
-    return count - 1;
+    return size() - 1;
 }
 
 ValueRange PointBuffer::range(int first, int last) const
 {
-    ValueRange found = nothing;
-    int place = dropped + first;
-    const int end = dropped + last + 1;
-    while (place < end) {
-        const Piece& piece = pieces.at(place / pieceSize);
-        const int inPiece = place % pieceSize;
-        if (inPiece % wideBlockSize == 0 && end - place >= wideBlockSize) {
-            widen(found, piece.wideBlocks.at(inPiece / wideBlockSize).range);
-            place += wideBlockSize;
-        } else if (inPiece % blockSize == 0 && end - place >= blockSize) {
-            widen(found, piece.blocks.at(inPiece / blockSize));
-            place += blockSize;
+    ValueRange found;
+    int index = first;
+    while (index <= last) {
+        const qint64 place = firstPlace + index;
+        if (place % blockSize == 0 && last - index + 1 >= blockSize) {
+            const ValueRange& block
+                = blocks[static_cast<std::size_t>(place / blockSize - firstPlace / blockSize)];
+            found.widen(block.lowest, block.highest);
+            index += blockSize;
         } else {
-            widen(found, piece.points.at(inPiece).degC);
-            ++place;
+            found.widen(at(index).degC, at(index).degC);
+            ++index;
         }
     }
     return found;
 }
 
-PointBuffer::Candidates PointBuffer::pairsOutside(int from, int last, const ValueRange& inside) const
-{
-    int point = from;
-    while (point <= last) {
-        const int place = dropped + point;
-        const ValueRange& pairs
-            = pieces.at(place / pieceSize).wideBlocks.at(place % pieceSize / wideBlockSize).pairs;
-        const int end = std::min(point - place % wideBlockSize + wideBlockSize, last + 1);
-        // So that NaN counts as outside.
-        const bool isInside = pairs.lowest >= inside.lowest && pairs.highest <= inside.highest;
-        if (!isInside) {
-            return {point, end};
-        }
-        point = end;
-    }
-    return {last + 1, last + 1};
-}
-
 int PointBuffer::stretchEnd(int index) const
 {
-    const qint64 oldest = firstPlace + dropped;
-    const auto next = std::upper_bound(stretchStarts.begin(), stretchStarts.end(), oldest + index);
-    return next == stretchStarts.end() ? count : static_cast<int>(*next - oldest);
+    const auto next = std::upper_bound(stretchStarts.begin(), stretchStarts.end(), firstPlace + index);
+    return next == stretchStarts.end() ? size() : static_cast<int>(*next - firstPlace);
 }
 
 bool PointBuffer::isFinite(int index) const
 {
-    return finite(at(index));
+    return std::isfinite(at(index).sec) && std::isfinite(at(index).degC);
 }
