@@ -11,6 +11,15 @@ constexpr int patienceMs = 20000;
 
 } // namespace
 
+Chamber::Chamber(const QStringList& options)
+    : Process(QStringLiteral(CHAMBERSIM_PROGRAM),
+        QStringList{QStringLiteral("--listen"), ownLoopbackAddress()} + options)
+{
+    if (!waitForText(QStringLiteral("listening "))) {
+        qFatal("the simulator does not listen");
+    }
+}
+
 HandledStation::HandledStation(const QStringList& environment)
 {
     const QString name = QStringLiteral("nelvo-hands-%1").arg(QCoreApplication::applicationPid());

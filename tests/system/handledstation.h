@@ -7,6 +7,13 @@
 
 #include <memory>
 
+/// The simulator, listening at ownLoopbackAddress().
+class Chamber : public Process
+{
+public:
+    explicit Chamber(const QStringList& options = {});
+};
+
 /// The program Nelvo as it is shipped, run for a test with an operator's hands in it (hands/): clicks, keys
 /// and looks from outside of its process.
 class HandledStation
