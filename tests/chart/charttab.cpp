@@ -5,20 +5,14 @@
 #include "chart/support/hand.h"
 #include "chart/support/referenceview.h"
 #include "chart/tshow.h"
-#include "support/stationfixture.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QLabel>
 
-class ChartTabTest : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void theTabIsThatOfPlainWidgets();
-};
+using namespace TestText;
 
 namespace {
 
@@ -67,50 +61,54 @@ private:
 
 } // namespace
 
-void ChartTabTest::theTabIsThatOfPlainWidgets()
+class ChartTabTest : public StationTest
 {
-    constexpr int emptyRound = 27; // three ticks a channel that is not in use
-    StationFixture station;
-    StationFixture::storeInUse({});
-    QVERIFY(station.open());
-    const qint64 startMs = DrivenClock::nowMs();
-    for (int record = 0; record < 60; ++record) {
-        DrivenClock::advance(4000);
-        station.tick(emptyRound);
-    }
-    station.window->resize(1400, 1000);
-    station.window->grab(); // lays everything out
-    auto* tab = qobject_cast<TShow*>(station.widget(QStringLiteral("Tshow")));
-    const auto* chart = tab->findChild<TShowView*>(QStringLiteral("TSView"));
-    const QList<LineSelect*> selectors = tab->findChildren<LineSelect*>();
-    QCOMPARE(selectors.size(), 9);
+    Q_OBJECT
 
-    PlainTab plain(*tab);
-    for (const LineSelect* selector : selectors) {
-        plain.addSelector(selector->findChild<QCheckBox*>()->text());
-    }
-    plain.view.now = static_cast<double>(DrivenClock::nowMs() - startMs) / 1000.0;
-    for (const PointBuffer& points : chart->channels()) {
-        QVector<QPointF> places;
-        for (int i = 0; i < points.size(); ++i) {
-            places.append(QPointF(points.at(i).sec, points.at(i).degC));
+private slots:
+    void theTabIsThatOfPlainWidgets()
+    {
+        Station::storeInUse({});
+        QVERIFY(station->open());
+        const qint64 startMs = DrivenClock::nowMs();
+        for (int record = 0; record < 60; ++record) {
+            DrivenClock::advance(4000);
+            station->tick(Station::emptyRound);
         }
-        plain.view.series.append(places);
+        station->window().resize(1400, 1000);
+        station->window().grab(); // lays everything out
+        TShow& tab = station->find<TShow>("Tshow"_s);
+        const TShowView& chart = station->find<TShowView>("TSView"_s);
+        const QList<LineSelect*> selectors = tab.findChildren<LineSelect*>();
+        QCOMPARE(selectors.size(), Channels::count);
+
+        PlainTab plain(tab);
+        for (const LineSelect* selector : selectors) {
+            plain.addSelector(selector->findChild<QCheckBox*>()->text());
+        }
+        plain.view.now = static_cast<double>(DrivenClock::nowMs() - startMs) / 1000.0;
+        for (const PointBuffer& points : chart.channels()) {
+            QVector<QPointF> places;
+            for (int i = 0; i < points.size(); ++i) {
+                places.append(QPointF(points.at(i).sec, points.at(i).degC));
+            }
+            plain.view.series.append(places);
+        }
+        const auto isSame = [&] { return tab.grab().toImage() == plain.frame.grab().toImage(); };
+        QVERIFY(isSame());
+
+        Hand::move(*selectors.at(2), QPointF(1, 1), Qt::NoButton);
+        plain.view.selected = 2;
+        QVERIFY(isSame());
+
+        // The first selector hides the first line.
+        selectors.at(0)->findChild<QCheckBox*>()->setChecked(false);
+        QVERIFY(!isSame());
+        plain.boxes.at(0)->setChecked(false);
+        plain.view.shown = {false};
+        QVERIFY(isSame());
     }
-    const auto isSame = [&] { return tab->grab().toImage() == plain.frame.grab().toImage(); };
-    QVERIFY(isSame());
-
-    Hand::move(*selectors.at(2), QPointF(1, 1), Qt::NoButton);
-    plain.view.selected = 2;
-    QVERIFY(isSame());
-
-    // The first selector hides the first line.
-    selectors.at(0)->findChild<QCheckBox*>()->setChecked(false);
-    QVERIFY(!isSame());
-    plain.boxes.at(0)->setChecked(false);
-    plain.view.shown = {false};
-    QVERIFY(isSame());
-}
+};
 
 NELVO_TEST_MAIN(ChartTabTest)
 #include "charttab.moc"
