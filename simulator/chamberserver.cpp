@@ -27,7 +27,7 @@ ChamberServer::ChamberServer(const Options& chosen, EventSink sink, Clock driven
     : options(chosen)
     , log(std::move(sink))
     , clock(driven ? std::move(driven) : [this] { return steady.elapsed(); })
-    , rack(chosen.seed)
+    , rack(chosen.seed, chosen.spreadDegC)
     , faults(chosen.faultRates, chosen.seed)
     , jitter(chosen.seed, jitterStream)
 {

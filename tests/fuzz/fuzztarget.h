@@ -23,7 +23,7 @@ public:
     int below(int count) { return byte() % count; }
     QByteArray piece(int length)
     {
-        const QByteArray part = bytes.mid(taken, length);
+        QByteArray part = bytes.mid(taken, length);
         taken += part.size();
         return part;
     }

@@ -54,7 +54,7 @@ void playOne(FuzzInput& input)
         station().tick(input.byte());
         break;
     case 1:
-        DrivenClock::advance(input.byte() * 500);
+        DrivenClock::advance(input.byte() * 500LL);
         station().tick();
         break;
     case 2:

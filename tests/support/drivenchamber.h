@@ -34,8 +34,7 @@ public:
 
 /// A station's window and the simulated chamber in one process and one thread, by one clock that is driven:
 /// an hour of station time takes seconds, and the same seed gives the same hour. Between two ticks, 10 ms
-/// apart, everything arrives that was sent. The station's debug lines go nowhere. The station's debug lines
-/// go nowhere.
+/// apart, everything arrives that was sent. The station's debug lines go nowhere.
 class DrivenChamber : public StationWindow
 {
 public:

@@ -35,7 +35,9 @@ void StationModel::linkGone()
 
 void StationModel::chamberSaid(const QByteArray& event)
 {
-    if (event.startsWith("rejected ") || event.startsWith("ignored ")) {
+    // Whatever is asked for is sent, also what no controller takes.
+    const bool isRejected = event.startsWith("rejected ") && !event.endsWith(" value out of range");
+    if (isRejected || event.startsWith("ignored ")) {
         diverge(QStringLiteral("the chamber says: ") + QString::fromUtf8(event));
     }
 }
