@@ -56,10 +56,12 @@ private slots:
         link->received("1\r\n");
         QCOMPARE(journalEvents(), QStringList());
         link = std::make_unique<LinkJournal>(journal, true);
-        link->sent("\x1B\x05\n");
+        link->sent(Wire::shutters(0x05));
+        link->sent(Wire::shutters(0x00));
         link->received("a\\b\r\n\xFF");
         QCOMPARE(journalEvents(),
-            QStringList({"sent bytes=\\x1b\\x05\\x0a"_s, "received bytes=a\\\\b\\x0d\\x0aÿ"_s}));
+            QStringList({"sent bytes=\\x1b\\x05\\x0a"_s, "sent bytes=\\x1b\\x00\\x0a"_s,
+                "received bytes=a\\\\b\\x0d\\x0aÿ"_s}));
     }
 
     void aHeldBusIsToldOnceAndWhenItIsFree()

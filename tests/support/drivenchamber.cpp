@@ -76,7 +76,7 @@ private:
     bool& unread;
 };
 
-DrivenChamber::DrivenChamber(const Chamber::Options& options, DrivenWatcher& watcher)
+DrivenChamber::DrivenChamber(DrivenWatcher& watcher)
     : follower(watcher)
     , addressBefore(qgetenv("NELVO_ADAPTER"))
     , reads(std::make_unique<Reads>(isUnread))
@@ -84,38 +84,57 @@ DrivenChamber::DrivenChamber(const Chamber::Options& options, DrivenWatcher& wat
     handlerBefore = qInstallMessageHandler(&watchShutters);
     retryAtMs = never;
     qputenv("NELVO_ADAPTER", ownLoopbackAddress().toLatin1());
+}
+
+DrivenChamber::DrivenChamber(const Chamber::Options& options, DrivenWatcher& watcher)
+    : DrivenChamber(watcher)
+{
     server = std::make_unique<Chamber::ChamberServer>(
-        atOwnAddress(options),
-        [this](const QByteArray& event) {
-            isLinkUp = isLinkUp || event == "connected";
-            follower.chamberSaid(event);
-        },
+        atOwnAddress(options), [this](const QByteArray& event) { chamberSaid(event); }, &DrivenClock::nowMs);
+    listenTo(*server);
+}
+
+DrivenChamber::DrivenChamber(const Chamber::Recording& recording, DrivenWatcher& watcher)
+    : DrivenChamber(watcher)
+{
+    replay = std::make_unique<Chamber::ReplayServer>(
+        recording, atOwnAddress({}), [this](const QByteArray& event) { chamberSaid(event); },
         &DrivenClock::nowMs);
-    QObject::connect(
-        server.get(), &Chamber::ChamberServer::received, server.get(), [this](const QByteArray& bytes) {
-            ++traffic;
-            follower.cameFromStation(bytes);
-        });
-    QObject::connect(
-        server.get(), &Chamber::ChamberServer::sent, server.get(), [this](const QByteArray& bytes) {
-            ++traffic;
-            isUnread = true;
-            follower.goesToStation(bytes);
-        });
-    QObject::connect(server.get(), &Chamber::ChamberServer::clientLeft, server.get(), [this] {
+    listenTo(*replay);
+}
+
+template <class Server> void DrivenChamber::listenTo(Server& farEnd)
+{
+    QObject::connect(&farEnd, &Server::received, &farEnd, [this](const QByteArray& bytes) {
+        ++traffic;
+        follower.cameFromStation(bytes);
+    });
+    QObject::connect(&farEnd, &Server::sent, &farEnd, [this](const QByteArray& bytes) {
+        ++traffic;
+        isUnread = true;
+        follower.goesToStation(bytes);
+    });
+    QObject::connect(&farEnd, &Server::clientLeft, &farEnd, [this] {
         isLinkUp = false;
         isUnread = false;
         follower.linkGone();
     });
-    if (!server->listen()) {
-        qFatal("the chamber cannot listen: %s", qPrintable(server->errorString()));
+    if (!farEnd.listen()) {
+        qFatal("the chamber cannot listen: %s", qPrintable(farEnd.errorString()));
     }
+}
+
+void DrivenChamber::chamberSaid(const QByteArray& event)
+{
+    isLinkUp = isLinkUp || event == "connected";
+    follower.chamberSaid(event);
 }
 
 DrivenChamber::~DrivenChamber()
 {
     close();
     server.reset();
+    replay.reset();
     qputenv("NELVO_ADAPTER", addressBefore);
     qInstallMessageHandler(handlerBefore);
 }
@@ -156,12 +175,21 @@ void DrivenChamber::run(qint64 ms)
 void DrivenChamber::stand(qint64 ms)
 {
     DrivenClock::advance(ms);
-    server->tick();
+    tickServer();
+}
+
+void DrivenChamber::tickServer()
+{
+    if (server != nullptr) {
+        server->tick();
+    } else {
+        replay->tick();
+    }
 }
 
 void DrivenChamber::tick()
 {
-    server->tick();
+    tickServer();
     if (isUnread) {
         settle();
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "simulator/chamberserver.h"
+#include "simulator/replayserver.h"
 
 #include "support/messagecapture.h"
 #include "support/stationwindow.h"
@@ -41,7 +42,9 @@ public:
     static constexpr qint64 tickMs = 10;
 
     /// A chamber with these options, but listening at ownLoopbackAddress(), where the station looks for it.
-    explicit DrivenChamber(const Chamber::Options& options, DrivenWatcher& watcher);
+    DrivenChamber(const Chamber::Options& options, DrivenWatcher& watcher);
+    /// A recorded session instead of a chamber.
+    DrivenChamber(const Chamber::Recording& recording, DrivenWatcher& watcher);
     ~DrivenChamber();
 
     /// Builds the window and lets its opening arrive.
@@ -56,6 +59,7 @@ public:
     /// Lets arrive what is on its way.
     void settle();
 
+    /// Not where a recording is played.
     const Chamber::ChamberServer& chamber() const { return *server; }
     /// The processor time that the costliest tick has taken so far, all that it set off included, in ms.
     double worstTickMs() const { return worstMs; }
@@ -63,7 +67,12 @@ public:
 private:
     class Reads;
 
+    explicit DrivenChamber(DrivenWatcher& watcher);
+
+    template <class Server> void listenTo(Server& farEnd);
+    void chamberSaid(const QByteArray& event);
     void tick();
+    void tickServer();
     bool isOnTheWay() const;
 
     DrivenWatcher& follower;
@@ -71,7 +80,8 @@ private:
     QByteArray addressBefore;
     HeldTicks held;
     DrivenClock clock;
-    std::unique_ptr<Chamber::ChamberServer> server;
+    std::unique_ptr<Chamber::ChamberServer> server; // one of these two
+    std::unique_ptr<Chamber::ReplayServer> replay;
     std::unique_ptr<Reads> reads;
     QWidget* programRun = nullptr;
     qint64 traffic = 0; // pieces of bytes that came or went

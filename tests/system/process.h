@@ -25,6 +25,8 @@ public:
     /// Asks the program to end and waits for it.
     void terminate();
 
+    /// The system's number of the process.
+    qint64 id() const { return process.processId(); }
     bool isRunning();
     /// Waits until the program has ended by itself, and says what it ended with; -1 when it does not within
     /// 20 s or was ended by a signal.
