@@ -5,9 +5,20 @@
 
 namespace AxisTicks {
 
+namespace {
+
+// A negative power of ten is no double, and not every C library rounds it to the nearest one: 0.51 would come
+// out as 0.5. The positive ones are exact, and so is what they divide.
+double timesPowerOfTen(double value, double exponent)
+{
+    return exponent < 0.0 ? value / std::pow(10.0, -exponent) : value * std::pow(10.0, exponent);
+}
+
+} // namespace
+
 double decadeStep(double span, double base)
 {
-    return base * std::pow(10.0, std::trunc(std::log10(span / base) - 0.5));
+    return timesPowerOfTen(base, std::trunc(std::log10(span / base) - 0.5));
 }
 
 Ticks ticks(double from, double to, double step)
@@ -61,7 +72,7 @@ FirstTick niceStep(double a, double b, int n)
         --exponent;
     }
     const double nice = mantissa <= 2.5 ? 1.0 : (mantissa <= 7.5 ? 5.0 : 10.0);
-    const double step = nice * std::pow(10.0, exponent);
+    const double step = timesPowerOfTen(nice, exponent);
     return {std::trunc(a / step + 1.0) * step, step};
 }
 
