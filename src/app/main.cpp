@@ -1,8 +1,69 @@
+#include "app/adapteraddress.h"
+#include "app/checkpc.h"
+#include "app/commandline.h"
 #include "app/language.h"
 #include "app/mbemain.h"
+#include "app/pcguard.h"
+#include "app/windowfont.h"
+#include "app/windowscale.h"
+#include "base/console.h"
+#include "base/debugline.h"
+#include "base/throttling.h"
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QTranslator>
+
+namespace {
+
+struct Answer
+{
+    QString text;
+    int status;
+};
+
+Answer answerTo(Task task, const QStringList& arguments)
+{
+    if (task == Task::CheckPc) {
+        const PcCheck check = checkPc(checkedSeconds(arguments));
+        return {check.report(), check.isPassed() ? 0 : 1};
+    }
+    return {task == Task::Help ? helpText() : versionText(), 0};
+}
+
+/// Answers a task without the station, where it was asked for or, after a double click, in a box.
+int answerWithoutStation(int argc, char* argv[], Task task, const QStringList& arguments)
+{
+    Answer answer;
+    {
+        // No display is needed for it.
+        QCoreApplication application(argc, argv);
+        QTranslator translator;
+        speak(chooseLanguage(arguments), translator);
+        answer = answerTo(task, arguments);
+        if (writeToConsole(answer.text)) {
+            return answer.status;
+        }
+    }
+    QApplication application(argc, argv);
+    QMessageBox::information(
+        nullptr, QStringLiteral("Nelvo"), QStringLiteral("<pre>%1</pre>").arg(answer.text.toHtmlEscaped()));
+    return answer.status;
+}
+
+void tell(const QString& line)
+{
+    NELVO_DEBUG("app").noquote() << line;
+}
+
+PcGuard::Work workOf(const MBEMain& window)
+{
+    return window.isPlaying() ? PcGuard::Work::Program
+        : window.isRamping()  ? PcGuard::Work::Ramp
+                              : PcGuard::Work::None;
+}
+
+} // namespace
 
 int main(int argc, char* argv[])
 {
@@ -12,14 +73,35 @@ int main(int argc, char* argv[])
     for (int i = 0; i < argc; ++i) {
         arguments.append(QString::fromLocal8Bit(argv[i]));
     }
+    const Task task = taskOf(arguments);
+    if (task != Task::Station) {
+        return answerWithoutStation(argc, argv, task, arguments);
+    }
 
+    setUpScale();
     QApplication application(argc, argv);
+    const Language& language = chooseLanguage(arguments);
     QTranslator translator;
-    speak(chooseLanguage(arguments), translator);
+    speak(language, translator);
+    useFontFor(language);
+    const QString refusal = refuseThrottling();
+    if (!refusal.isEmpty()) {
+        tell(QStringLiteral("throttling under a covered window: not switched off, ") + refusal);
+    }
+
+    const QString mistake = adapterMistake();
+    if (!mistake.isEmpty()) {
+        tell(mistake);
+        QMessageBox::critical(nullptr, QStringLiteral("Nelvo"), mistake);
+        return 1;
+    }
 
     // Never deleted: ending the program sends nothing to the instruments, and the destructors of the window
     // and of its link must not change that.
     auto* window = new MBEMain;
+    const PcGuard guard(*window, [window] { return workOf(*window); });
+    QObject::connect(&guard, &PcGuard::told, &tell);
+    fitIntoFreeArea(*window);
     window->show();
     return QApplication::exec();
 }

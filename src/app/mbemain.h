@@ -36,6 +36,11 @@ public:
     MBEMain();
     ~MBEMain() override;
 
+    /// Whether a program plays, paused or not.
+    bool isPlaying() const { return progRunning; }
+    /// Whether any cell's set point is being ramped.
+    bool isRamping() const { return anyCellRunning(); }
+
 signals:
     /// Declared only; the chart is fed by direct calls.
     void newT(int ch, qint64 t, double T);

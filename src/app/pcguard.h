@@ -1,0 +1,44 @@
+#pragma once
+
+#include "base/powerrequest.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+
+class QSessionManager;
+class QWidget;
+
+/// Looks after the PC while the station works: it stays awake while a program plays or a ramp runs, and an
+/// end of the session that is asked for while a program plays is held up with the reason shown, where the
+/// platform shows one beside a button that goes on. Elsewhere, and without a program, the session ends when
+/// it is told to.
+class PcGuard : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class Work { None, Ramp, Program };
+
+    /// Asks `work` once a second. `window` is the station's, and lives longer than this.
+    PcGuard(QWidget& window, std::function<Work()> work);
+
+signals:
+    /// Something that the operator may want to read afterwards, in English: what was asked of the PC and what
+    /// came of it, or that the session was to end.
+    void told(const QString& line);
+
+private:
+    void look();
+    void keepAwake(Work now);
+    void holdUpSessionEnd(bool isPlaying);
+    void answerSessionEnd(QSessionManager& manager);
+
+    QWidget& window;
+    std::function<Work()> work;
+    QTimer timer;
+    Work seen = Work::None;
+    PowerRequest awake;
+    bool holdsUpSessionEnd = false;
+};
