@@ -8,8 +8,9 @@
 /// file: one "key TAB value" a line, the last line of a key wins.
 ///
 /// The file is compacted when it is loaded; while the program runs every change appends a dump of the whole
-/// store, or nothing when there is no room for all of it. A file that cannot be read counts as empty, one that
-/// cannot be written is left alone, both without a word: the settings in memory are what the program goes by.
+/// store, or nothing when there is no room for all of it. A file that cannot be read counts as empty, one
+/// that cannot be written is left alone, both without a word: the settings in memory are what the program
+/// goes by.
 class Conditions : public QObject
 {
     Q_OBJECT

@@ -7,8 +7,7 @@
 #include "app/windowfont.h"
 #include "app/windowscale.h"
 #include "base/console.h"
-#include "base/debugline.h"
-#include "base/throttling.h"
+#include "journal/journal.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -51,9 +50,14 @@ int answerWithoutStation(int argc, char* argv[], Task task, const QStringList& a
     return answer.status;
 }
 
-void tell(const QString& line)
+/// Nothing has been sent yet, and nothing will be: the journal and a box say why.
+int endForMistake(const QString& mistake)
 {
-    NELVO_DEBUG("app").noquote() << line;
+    Journal journal;
+    journal.write("no-start", {{"reason", mistake}});
+    QMessageBox::critical(nullptr, QStringLiteral("Nelvo"), mistake);
+    journal.write("exit");
+    return 1;
 }
 
 PcGuard::Work workOf(const MBEMain& window)
@@ -84,23 +88,17 @@ int main(int argc, char* argv[])
     QTranslator translator;
     speak(language, translator);
     useFontFor(language);
-    const QString refusal = refuseThrottling();
-    if (!refusal.isEmpty()) {
-        tell(QStringLiteral("throttling under a covered window: not switched off, ") + refusal);
-    }
-
     const QString mistake = adapterMistake();
     if (!mistake.isEmpty()) {
-        tell(mistake);
-        QMessageBox::critical(nullptr, QStringLiteral("Nelvo"), mistake);
-        return 1;
+        return endForMistake(mistake);
     }
 
     // Never deleted: ending the program sends nothing to the instruments, and the destructors of the window
     // and of its link must not change that.
     auto* window = new MBEMain;
-    const PcGuard guard(*window, [window] { return workOf(*window); });
-    QObject::connect(&guard, &PcGuard::told, &tell);
+    PcGuard guard(*window, [window] { return workOf(*window); });
+    QObject::connect(&guard, &PcGuard::told, window, &MBEMain::journalPc);
+    guard.start();
     fitIntoFreeArea(*window);
     window->show();
     return QApplication::exec();

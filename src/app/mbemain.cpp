@@ -4,6 +4,8 @@
 #include "app/conditions.h"
 #include "base/wallclock.h"
 #include "gpib/gpib.h"
+#include "journal/journal.h"
+#include "journal/linkjournal.h"
 #include "program/aline.h"
 
 #include <QFileDialog>
@@ -22,7 +24,10 @@ MBEMain::MBEMain()
     conditions = new Conditions;
     conditions->load(QStringLiteral("NelvoCurrentStat.dat"));
 
+    setupJournal();
+
     gpib = new GPIB;
+    gpib->setObserver(*linkJournal);
     gpib->connectAdapter(adapterAddress(), adapterPort);
     gpib->sndMsg("\n");
     gpib->setAuto(1);
@@ -47,6 +52,8 @@ MBEMain::~MBEMain()
     delete watchTimer;
     delete actionTimer;
     delete gpib;
+    delete linkJournal;
+    delete journal;
     delete conditions;
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "base/channels.h"
-#include "program/blockcursor.h"
+#include "journal/journalline.h"
+#include "journal/timewatch.h"
+#include "program/player.h"
 #include "temperature/polling.h"
 #include "temperature/ramp.h"
 #include "ui_mainwindow.h"
@@ -16,6 +18,8 @@
 class aLine;
 class Conditions;
 class GPIB;
+class Journal;
+class LinkJournal;
 class QFileDialog;
 class QTimer;
 
@@ -37,9 +41,11 @@ public:
     ~MBEMain() override;
 
     /// Whether a program plays, paused or not.
-    bool isPlaying() const { return progRunning; }
+    bool isPlaying() const { return player.progRunning; }
     /// Whether any cell's set point is being ramped.
     bool isRamping() const { return anyCellRunning(); }
+    /// Has the journal say what came of something that was asked of the PC.
+    void journalPc(const QString& text);
 
 signals:
     /// Declared only; the chart is fed by direct calls.
@@ -76,6 +82,11 @@ private slots:
 private:
     void setupNames();
 
+    // journal/
+    void setupJournal();
+    void journalTick();
+    void journalCell(const char* kind, int ch, const JournalFields& fields);
+
     // shutter/
     void setupShutter();
     /// Makes the states, one a shutter, true = open, the commanded ones, and has them shown and sent.
@@ -99,6 +110,7 @@ private:
     QString refusalText(Ramp::Refusal refusal, int ch, double durationMin) const;
     double targetOf(int ch);
     void warn(const QString& text);
+    void journalReading(int ch);
     bool anyCellRunning() const;
     bool rampStep(int ch);
     void showElapsed();
@@ -116,17 +128,25 @@ private:
     void pasteAt(int row);
 
     // program/: playing it
-    void setPaused(bool paused);
-    void endStep();
+    void stopProgram(const char* why);
+    void showPaused();
+    void endStep(qint64 nowMs);
     void startStep(qint64 nowMs);
-    void startRamps(const aLine& line);
     void showGroupCount();
+    void journalProgram();
+    void journalEdits();
+    void journalStep();
+    QVector<ProgramStep> tableContents() const;
 
     QStringList cellNames;
     QStringList shutterNames;
     QVector<double> riseRateLimits; // deg C per minute
     GPIB* gpib = nullptr;
     Conditions* conditions = nullptr;
+    Journal* journal = nullptr;
+    LinkJournal* linkJournal = nullptr;
+    TimeWatch timeWatch{10};
+    qint64 nextMinuteMs = 0; // ms since the epoch: when the temperatures are written down next
     qint64 startTime = 0; // ms since the epoch: time zero of the chart and of the temperature record
 
     // shutter/
@@ -138,6 +158,7 @@ private:
     QVector<bool> nextShutterState; // wanted, true = open
     QVector<bool> currentShutterState; // commanded, true = open
     QTimer* actionTimer = nullptr;
+    qint64 shutterWaitSinceMs = 0; // ms since the epoch: a command waits for the bus; 0 when none does
 
     // temperature/: the cell panel
     QString runText;
@@ -155,6 +176,7 @@ private:
     QList<QLabel*> elapsedLabels;
     QVector<Ramp::Run> ramps; // cellRunning, rampStartMs, rampNextMs, rampRate, rampSetPoint
     QTimer* watchTimer = nullptr;
+    QVector<int> failedReadings; // in a row
     Polling polling; // watchState, tickCount, sentTick, lastRampTick, pollCh, rampCh, tmpReply
 
     // program/: the table, 200 rows for the life of the window
@@ -164,17 +186,11 @@ private:
     aLine* clipLine = nullptr; // the row held by copy and cut, never shown
 
     // program/: the player, at most one step a tick
-    enum class StepPhase { ToStart, Playing };
     QString progRunText;
     QString progStopText;
     QString progResumeText;
     QString progPauseText;
     QTimer* progTimer = nullptr;
-    bool progRunning = false;
-    bool progPaused = false;
-    qint64 progStartMs = 0; // ms since the epoch
-    qint64 stepStartMs = 0; // ms since the epoch
-    double stepTime = 0.0; // s, as read when the step started
-    StepPhase stepPhase = StepPhase::ToStart;
-    BlockCursor progWalk; // curStep, groupTimes, groupCount, groupStart
+    Player player; // progRunning, progPaused, progStartMs, stepStartMs, stepTime, stepPhase, the walk
+    QVector<ProgramStep> journaledTable; // as far as the journal has told it
 };

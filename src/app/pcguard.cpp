@@ -1,6 +1,7 @@
 #include "app/pcguard.h"
 
 #include "base/shutdownblock.h"
+#include "base/throttling.h"
 
 #include <QGuiApplication>
 #include <QSessionManager>
@@ -28,6 +29,11 @@ PcGuard::PcGuard(QWidget& guarded, std::function<Work()> whatIsDone)
     connect(
         qApp, &QGuiApplication::commitDataRequest, this, &PcGuard::answerSessionEnd, Qt::DirectConnection);
     connect(&timer, &QTimer::timeout, this, &PcGuard::look);
+}
+
+void PcGuard::start()
+{
+    emit told(QStringLiteral("no throttling under a covered window: ") + outcome(refuseThrottling()));
     timer.start(lookEveryMs);
 }
 

@@ -21,8 +21,11 @@ class PcGuard : public QObject
 public:
     enum class Work { None, Ramp, Program };
 
-    /// Asks `work` once a second. `window` is the station's, and lives longer than this.
+    /// `window` is the station's, and lives longer than this.
     PcGuard(QWidget& window, std::function<Work()> work);
+
+    /// Switches throttling off for good and asks `work` once a second from now on.
+    void start();
 
 signals:
     /// Something that the operator may want to read afterwards, in English: what was asked of the PC and what

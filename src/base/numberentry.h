@@ -5,9 +5,10 @@
 class QLineEdit;
 
 /// What an entry for numbers makes of a text that is typed or pasted: compatibility forms become plain ones
-/// (NFKC: full-width digits, points and signs, as a Japanese keyboard gives them), white space and line ends go.
+/// (NFKC: full-width digits, points and signs, as a Japanese keyboard gives them), white space and line ends
+/// go.
 QString plainNumberText(const QString& text);
 
-/// Makes `entry` one for numbers: what the operator types or pastes is made plain at once, and input methods are
-/// asked for Latin numbers. What the program sets stays as it is.
+/// Makes `entry` one for numbers: what the operator types or pastes is made plain at once, and input methods
+/// are asked for Latin numbers. What the program sets stays as it is.
 void makeNumberEntry(QLineEdit& entry);

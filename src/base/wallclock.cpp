@@ -8,10 +8,16 @@ namespace WallClock {
 
 qint64 carriedOnMs()
 {
-    static const qint64 offsetMs = QDateTime::currentMSecsSinceEpoch() - awakeMs();
+    static const qint64 offsetMs = steppingMs() - awakeMs();
     return offsetMs + awakeMs();
 }
 
+qint64 steppingMs()
+{
+    return QDateTime::currentMSecsSinceEpoch();
+}
+
 Source source = &carriedOnMs;
+Source systemSource = &steppingMs;
 
 } // namespace WallClock

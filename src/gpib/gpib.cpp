@@ -4,22 +4,22 @@
 #include <QMessageLogger>
 #include <QTcpSocket>
 
+#include <utility>
+
 namespace {
 
 constexpr uint longestText = 1000;
 constexpr int longestLine = 160000;
 
-// Not to report anything, but to keep a refused connection as silent as it has to be: the socket keeps the
-// bytes that were queued for it and the notifier that flushes them, would try to write them without a
-// connection and print a warning. Aborting drops both. A connection that was up and is lost reports its error
-// before it counts as unconnected, so lines that have arrived are still delivered.
-void dropUnsentWhenRefused(QTcpSocket& socket)
+// Keeps a refused connection as silent as it has to be: the socket keeps the bytes that were queued for it
+// and the notifier that flushes them, would try to write them without a connection and print a warning.
+// Aborting drops both. A connection that was up and is lost reports its error before it counts as
+// unconnected, so lines that have arrived are still delivered.
+void dropUnsentIfRefused(QTcpSocket& socket)
 {
-    QObject::connect(&socket, &QAbstractSocket::errorOccurred, &socket, [&socket] {
-        if (socket.state() == QAbstractSocket::UnconnectedState) {
-            socket.abort();
-        }
-    });
+    if (socket.state() == QAbstractSocket::UnconnectedState) {
+        socket.abort();
+    }
 }
 
 } // namespace
@@ -47,16 +47,23 @@ void GPIB::connectAdapter(const QString& host, int port)
         delete socket;
         socket = nullptr;
         incoming.clear();
+        hasConnection = false;
     }
     socket = new QTcpSocket;
     connect(socket, SIGNAL(readyRead()), this, SLOT(rcvMsg()), Qt::UniqueConnection);
-    dropUnsentWhenRefused(*socket);
+    connect(socket, &QAbstractSocket::errorOccurred, socket, [this] {
+        observer->notConnected(std::exchange(hasConnection, false), socket->errorString());
+        dropUnsentIfRefused(*socket);
+    });
     socket->connectToHost(
         host, static_cast<quint16>(port), QIODevice::ReadWrite, QAbstractSocket::AnyIPProtocol);
     // A shutter command must not wait for the acknowledgement of what was sent before it. Not before the
     // connection is up: while a host name is being looked up there is no socket yet to set it for.
-    connect(socket, &QAbstractSocket::connected, socket,
-        [this] { socket->setSocketOption(QAbstractSocket::LowDelayOption, 1); });
+    connect(socket, &QAbstractSocket::connected, socket, [this] {
+        socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+        hasConnection = true;
+        observer->connected();
+    });
     socket->setTextModeEnabled(false);
     setEoi(-1);
 }
@@ -141,10 +148,12 @@ qint64 GPIB::bytesAvailable()
 
 void GPIB::rcvMsg()
 {
-    incoming.append(socket->readAll());
+    const QByteArray arrived = socket->readAll();
+    observer->received(arrived);
+    incoming.append(arrived);
     while (const std::optional<QByteArray> line = incoming.takeLine()) {
         rbuf = line->simplified();
-        replyPending = false;
+        observer->lineArrived(rbuf, std::exchange(replyPending, false));
         emit dataReady(rbuf.size(), rbuf);
     }
 }
@@ -155,5 +164,12 @@ void GPIB::write(const QByteArray& bytes)
     // about every later one.
     if (socket != nullptr && socket->isOpen()) {
         socket->write(bytes);
+        observer->sent(bytes);
     }
+}
+
+void GPIB::setReplyPending()
+{
+    replyPending = true;
+    observer->replyAwaited();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "gpib/linebuffer.h"
+#include "gpib/linkobserver.h"
 
 #include <QByteArray>
 #include <QObject>
@@ -59,7 +60,13 @@ public:
     /// The bus lock: a sender that awaits a reply sets it, any line that arrives clears it. While it is set
     /// no other address can be selected.
     bool isReplyPending() const { return replyPending; }
-    void setReplyPending() { replyPending = true; }
+    void setReplyPending();
+
+    /// Whether the connection is up, as far as has been seen. For telling people; nothing goes by it.
+    bool isUp() const { return hasConnection; }
+
+    /// Has an observer told what happens from now on; it must outlive the link.
+    void setObserver(LinkObserver& newObserver) { observer = &newObserver; }
 
 signals:
     /// One complete line arrived; `rbuf` is the line with its white space simplified, `bytes` its length.
@@ -74,6 +81,9 @@ private:
     QTcpSocket* socket = nullptr;
     LineBuffer incoming; // what of the socket's bytes is no complete line yet
     QByteArray rbuf;
+    LinkObserver nobody;
+    LinkObserver* observer = &nobody;
+    bool hasConnection = false;
     bool replyPending = false;
     int currentAddress = -1;
     int currentEos = -10;

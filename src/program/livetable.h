@@ -38,9 +38,11 @@ private:
     QList<QWidget*> held;
 };
 
-/// A label beside the table that shows a figure ten times a second must not change its size with each: the tab
-/// around it would be laid out and painted anew, the table with it. It has room for ten characters, for good.
+/// A label beside the table that shows a figure ten times a second must not change its size with each: the
+/// tab around it would be laid out and painted anew, the table with it. It has room for ten characters, for
+/// good.
 void giveRoomForFigures(QLabel& label);
 
-/// Shows a figure on a label with such room. A longer one is cut off on the right; the tool tip has the whole.
+/// Shows a figure on a label with such room. A longer one is cut off on the right; the tool tip has the
+/// whole.
 void showFigure(QLabel& label, const QString& text);

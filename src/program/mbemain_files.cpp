@@ -3,6 +3,7 @@
 #include "app/mbemain.h"
 #include "base/debugline.h"
 #include "base/wholefile.h"
+#include "journal/journal.h"
 #include "program/aline.h"
 #include "program/livetable.h"
 #include "program/programfile.h"
@@ -84,10 +85,12 @@ void MBEMain::APLoadProg(QString fname)
 {
     const std::optional<QVector<ProgramStep>> steps = ProgramFile::load(fname, progLines.size());
     if (!steps) {
+        journal->write("load-refused", {{"file", fname}});
         NELVO_DEBUG("program") << cannotOpen << fname << bracket;
         return;
     }
 
+    journal->write("load", {{"file", fname}, {"rows", QString::number(steps->size())}});
     const HeldUpdates held(*SA01);
     // Rows the file does not fill are cleared. Clearing them all first would show every widget twice.
     for (int k = 0; k < progLines.size(); ++k) {
@@ -97,16 +100,14 @@ void MBEMain::APLoadProg(QString fname)
 
 void MBEMain::APSaveProg(QString fname)
 {
-    QVector<ProgramStep> steps;
-    steps.reserve(progLines.size());
-    for (const aLine* line : qAsConst(progLines)) {
-        steps.append(line->contents());
-    }
     QByteArray text;
     QTextStream stream(&text);
-    ProgramFile::write(stream, steps);
+    ProgramFile::write(stream, tableContents());
     stream.flush();
-    if (!replaceFile(fname, text)) {
+    if (replaceFile(fname, text)) {
+        journal->write("save", {{"file", fname}});
+    } else {
+        journal->write("save-failed", {{"file", fname}});
         NELVO_DEBUG("program") << cannotOpen << fname << bracket;
     }
 }

@@ -3,6 +3,7 @@
 #include "app/mbemain.h"
 #include "base/panelstyle.h"
 #include "base/wallclock.h"
+#include "journal/journal.h"
 #include "program/aline.h"
 #include "program/livetable.h"
 #include "program/tablerows.h"
@@ -52,64 +53,67 @@ QString shownSecondsOf(qint64 ms)
 
 void MBEMain::APStart()
 {
-    if (progRunning) {
-        progTimer->stop();
-        progRunning = false;
-        showState(*ProgRun, false, progRunText);
+    if (player.progRunning) {
+        stopProgram("stopped");
         return;
     }
     showState(*ProgRun, true, progStopText);
     showState(*ProgPause, false, progPauseText);
-    stepPhase = StepPhase::ToStart;
-    progRunning = true;
-    progPaused = false;
-    stepStartMs = progStartMs = WallClock::nowMs();
-    stepTime = 0.0;
-    progWalk = BlockCursor::atStart(TableRows(progLines));
+    player.start(TableRows(progLines), WallClock::nowMs());
     showGroupCount();
     APCheck();
+    journalProgram();
     progTimer->start();
+}
+
+// The running row's mark, the shutters and the ramps stay as they are.
+void MBEMain::stopProgram(const char* why)
+{
+    progTimer->stop();
+    player.stop();
+    showState(*ProgRun, false, progRunText);
+    journalEdits();
+    journal->write("program-end", {{"why", QLatin1String(why)}});
 }
 
 // The clocks run on: a pause counts towards the step's and the program's time.
 void MBEMain::APPause()
 {
-    if (!progRunning) {
+    if (!player.progRunning) {
         return;
     }
-    setPaused(!progPaused);
+    player.progPaused = !player.progPaused;
+    showPaused();
+    journal->write(player.progPaused ? "pause" : "resume");
 }
 
-void MBEMain::setPaused(bool paused)
+void MBEMain::showPaused()
 {
-    progPaused = paused;
-    showState(*ProgPause, paused, paused ? progResumeText : progPauseText);
+    showState(*ProgPause, player.progPaused, player.progPaused ? progResumeText : progPauseText);
 }
 
 void MBEMain::APOneTick()
 {
     const qint64 now = WallClock::nowMs();
-    if (progPaused) {
+    if (player.progPaused) {
         return;
     }
-    if (stepPhase == StepPhase::Playing) {
-        const qint64 elapsedMs = now - stepStartMs;
-        showFigure(*DispTime01, shownSecondsOf(elapsedMs));
-        showFigure(*DispTTime01, shownSecondsOf(now - progStartMs));
-        if (static_cast<double>(elapsedMs) > 1000.0 * stepTime) {
-            endStep();
+    if (!player.isToStart()) {
+        showFigure(*DispTime01, shownSecondsOf(now - player.stepStartMs));
+        showFigure(*DispTTime01, shownSecondsOf(now - player.progStartMs));
+        if (player.isStepOver(now)) {
+            endStep(now);
         }
     }
-    if (stepPhase == StepPhase::ToStart) {
+    if (player.isToStart()) {
         startStep(now);
     }
 }
 
-void MBEMain::endStep()
+void MBEMain::endStep(qint64 nowMs)
 {
-    progLines[progWalk.curStep]->setMark(false);
-    stepPhase = StepPhase::ToStart;
-    const BlockCursor::Move move = progWalk.advance(TableRows(progLines));
+    progLines[player.progWalk.curStep]->setMark(false);
+    const BlockCursor::Move move = player.endStep(TableRows(progLines), nowMs);
     if (move == BlockCursor::Move::Repeat || move == BlockCursor::Move::NextBlock) {
         showGroupCount();
     }
@@ -117,38 +121,27 @@ void MBEMain::endStep()
 
 void MBEMain::startStep(qint64 nowMs)
 {
-    const double timeSec = progWalk.curStep < progLines.size() ? progLines[progWalk.curStep]->time() : 0.0;
-    if (timeSec == 0.0) {
-        APStart(); // running, so this stops
+    const int row = player.progWalk.curStep;
+    const StepPlan plan = row < progLines.size() ? planOf(progLines[row]->contents()) : StepPlan();
+    if (plan.kind == StepPlan::Kind::End) {
+        stopProgram("over");
         return;
     }
-    aLine& line = *progLines[progWalk.curStep];
-    stepTime = timeSec;
-    if (stepTime < 0.0) {
-        setPaused(true);
+    player.startStep(plan, nowMs);
+    journalEdits();
+    journalStep();
+    if (player.progPaused) {
+        showPaused();
     }
-    line.setMark(true);
-    if (stepTime > 0.0) {
-        startRamps(line);
+    progLines[row]->setMark(true);
+    // Whether a channel is marked in use is not asked here.
+    for (const StepRamp& ramp : plan.ramps) {
+        restartRamp(ramp.channel, ramp.targetDegC, ramp.minutes);
     }
-    commandShutters(line.shutters());
+    commandShutters(plan.shutters);
 
     showFigure(*DispTime01, QStringLiteral("0"));
-    showFigure(*DispTime02, shownSeconds(stepTime));
-    stepPhase = StepPhase::Playing;
-    stepStartMs = nowMs;
-}
-
-// Ramps last exactly as long as the step. Whether a channel is marked in use is not asked here.
-void MBEMain::startRamps(const aLine& line)
-{
-    const QString minutes = QString::number(stepTime / 60.0, 'g', 6);
-    for (int ch = 0; ch < line.tempCount(); ++ch) {
-        if (line.temp(ch) <= 0.0) {
-            continue;
-        }
-        restartRamp(ch, line.tempText(ch), minutes);
-    }
+    showFigure(*DispTime02, shownSeconds(player.stepTime));
 }
 
 void MBEMain::APCheck()
@@ -158,11 +151,11 @@ void MBEMain::APCheck()
 
 void MBEMain::showGroupCount()
 {
-    if (progWalk.groupTimes < 1) {
+    if (player.progWalk.groupTimes < 1) {
         showFigure(*DispCount01, QStringLiteral("----"));
         showFigure(*DispCount02, QStringLiteral("----"));
         return;
     }
-    showFigure(*DispCount01, QString::asprintf("%4d", progWalk.groupCount + 1));
-    showFigure(*DispCount02, QString::asprintf("%4d", progWalk.groupTimes));
+    showFigure(*DispCount01, QString::asprintf("%4d", player.progWalk.groupCount + 1));
+    showFigure(*DispCount02, QString::asprintf("%4d", player.progWalk.groupTimes));
 }

@@ -53,9 +53,6 @@ void MBEMain::setupProgramBar()
     for (QLabel* figure : {DispTime01, DispTime02, DispTTime01, DispTTime02, DispCount01, DispCount02}) {
         giveRoomForFigures(*figure);
     }
-    progRunning = false;
-    progPaused = false;
-
     progTimer = new QTimer;
     progTimer->setTimerType(Qt::PreciseTimer);
     progTimer->setInterval(10);

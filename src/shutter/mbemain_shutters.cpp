@@ -4,7 +4,9 @@
 #include "base/debugline.h"
 #include "base/numberedwidgets.h"
 #include "base/panelstyle.h"
+#include "base/wallclock.h"
 #include "gpib/gpib.h"
+#include "journal/journal.h"
 #include "shutter/shuttercommand.h"
 
 #include <QTimer>
@@ -79,6 +81,9 @@ void MBEMain::ActionShutter()
     // nothing; it says what the test is about.
     if (gpib->address() != shutterAddress && gpib->isReplyPending()) {
         NELVO_DEBUG("shutter") << "Shutter retrying";
+        if (shutterWaitSinceMs == 0) {
+            shutterWaitSinceMs = WallClock::nowMs();
+        }
         actionTimer->setInterval(10);
         actionTimer->setSingleShot(true);
         actionTimer->start();
@@ -105,4 +110,10 @@ void MBEMain::ActionShutter()
     gpib->setEos(3);
     gpib->setEoi(1);
     gpib->sndRaw(command.constData(), command.size());
+
+    const qint64 waitedMs = shutterWaitSinceMs == 0 ? 0 : WallClock::nowMs() - shutterWaitSinceMs;
+    shutterWaitSinceMs = 0;
+    journal->write("shutters",
+        {{"open", shutterLetters(currentShutterState)}, {"waited-ms", QString::number(waitedMs)},
+            {"link", gpib->isUp() ? QStringLiteral("up") : QStringLiteral("down")}});
 }

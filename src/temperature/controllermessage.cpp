@@ -17,7 +17,6 @@ constexpr char endOfText = '\x03';
 constexpr char endOfTransmission = '\x04';
 constexpr char enquiry = '\x05';
 
-constexpr int replyLength = 11;
 constexpr int valueStart = 3;
 constexpr int valueLength = 7;
 

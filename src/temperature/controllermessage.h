@@ -13,6 +13,9 @@ namespace ControllerMessage {
 /// The GPIB address of the device in front of the controllers.
 constexpr int gpibAddress = 1;
 
+/// Characters in an answer to a read.
+constexpr int replyLength = 11;
+
 /// What stands in the place of a reply when the controller reports an error or says nothing.
 extern const QByteArray errorReply;
 

@@ -6,6 +6,7 @@
 #include "base/numberentry.h"
 #include "base/panelstyle.h"
 #include "gpib/gpib.h"
+#include "journal/journal.h"
 
 #include <QTimer>
 
@@ -32,6 +33,7 @@ void MBEMain::setupTemperature()
 
     cellActive.fill(true, Channels::count);
     ramps.resize(Channels::count);
+    failedReadings.fill(0, Channels::count);
     for (int n = 0; n < Channels::count; ++n) {
         showState(*runButtons[n], false, runText);
         cellLabels[n]->setText(cellNames[n]);
@@ -45,6 +47,10 @@ void MBEMain::setupTemperature()
         keepRoomFor(*activeButtons[n], {activeText, notInUseText});
         keepRoomFor(*runButtons[n], {runText, stopText});
     }
+
+    connect(TMPCtrlActive, &QRadioButton::toggled, this, [this](bool on) {
+        journal->write("control", {{"is", on ? QStringLiteral("on") : QStringLiteral("off")}});
+    });
 
     watchTimer = new QTimer;
     watchTimer->setInterval(10);
@@ -80,4 +86,5 @@ void MBEMain::ActivateCell()
     cellActive[n] = !cellActive[n];
     conditions->setValue(activeKey(n), cellActive[n] ? QStringLiteral("Active") : QStringLiteral("InActive"));
     showCellActive(n);
+    journalCell("in-use", n, {{"is", cellActive[n] ? QStringLiteral("Active") : QStringLiteral("InActive")}});
 }

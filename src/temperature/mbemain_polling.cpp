@@ -6,6 +6,7 @@
 
 void MBEMain::WatchTMP()
 {
+    journalTick();
     if (!TMPCtrlActive->isChecked()) {
         return;
     }
@@ -49,7 +50,23 @@ void MBEMain::requestReading()
 void MBEMain::showReading()
 {
     currentLabels[polling.pollCh]->setText(ControllerMessage::shownValue(polling.tmpReply));
+    journalReading(polling.pollCh);
     polling.replyShown();
+}
+
+// The first of several failures in a row, and the reading that ends them: a controller that is out of order
+// would fill the journal.
+void MBEMain::journalReading(int ch)
+{
+    const bool failed = polling.tmpReply == ControllerMessage::errorReply;
+    if (failed && failedReadings[ch] == 0) {
+        journalCell("reading-failed", ch,
+            {{"why", gpib->isReplyPending() ? QStringLiteral("silence") : QStringLiteral("error")}});
+    }
+    if (!failed && failedReadings[ch] > 0) {
+        journalCell("reading-back", ch, {{"failed", QString::number(failedReadings[ch])}});
+    }
+    failedReadings[ch] = failed ? failedReadings[ch] + 1 : 0;
 }
 
 void MBEMain::newData(int bytes, QByteArray line)

@@ -5,6 +5,7 @@
 #include "base/panelstyle.h"
 #include "base/wallclock.h"
 #include "gpib/gpib.h"
+#include "journal/journal.h"
 
 #include <algorithm>
 
@@ -21,18 +22,26 @@ void MBEMain::startStopCell(int ch)
 {
     if (ramps[ch].cellRunning) {
         stopCell(ch);
+        journalCell("ramp-end", ch, {{"why", QStringLiteral("stopped")}});
         return;
     }
     // A temperature that is not known counts as 0, and so does what is no number.
     const double current = readNumber(currentLabels[ch]->text()).value_or(0.0);
     const double duration = readNumber(durationEdits[ch]->text()).value_or(0.0);
-    const Ramp::Plan plan = Ramp::plan(current, targetOf(ch), duration, riseRateLimits[ch]);
+    const double target = targetOf(ch);
+    const Ramp::Plan plan = Ramp::plan(current, target, duration, riseRateLimits[ch]);
+    const JournalFields asked = {{"from", journalNumber(current)}, {"to", journalNumber(target)},
+        {"minutes", journalNumber(duration)}, {"rate", journalNumber(plan.rate)}};
     if (plan.refusal != Ramp::Refusal::None) {
+        const bool isTime = plan.refusal == Ramp::Refusal::Duration;
         warn(refusalText(plan.refusal, ch, duration));
         stopCell(ch); // a program's step may have refused to replace a ramp by this one
+        journalCell("ramp-refused", ch,
+            JournalFields{{"why", isTime ? QStringLiteral("time") : QStringLiteral("rise")}} + asked);
         return;
     }
     ramps[ch].start(plan, WallClock::nowMs());
+    journalCell("ramp", ch, asked);
     showState(*runButtons[ch], true, stopText);
 }
 
@@ -73,6 +82,9 @@ void MBEMain::restartRamp(int ch, const QString& targetDegC, const QString& dura
 {
     targetEdits[ch]->setText(targetDegC);
     durationEdits[ch]->setText(durationMin);
+    if (ramps[ch].cellRunning) {
+        journalCell("ramp-end", ch, {{"why", QStringLiteral("replaced")}});
+    }
     ramps[ch].cellRunning = false;
     startStopCell(ch);
 }
@@ -103,8 +115,10 @@ bool MBEMain::rampStep(int ch)
     const double setPoint = ramp.step(targetOf(ch));
     setTMP(static_cast<unsigned char>(ch), setPoint);
     setPointLabels[ch]->setText(QString::number(setPoint, 'g', 6));
+    journalCell("set-point", ch, {{"deg-c", journalNumber(setPoint)}});
     if (!ramp.cellRunning) {
         stopCell(ch);
+        journalCell("ramp-end", ch, {{"why", QStringLiteral("reached")}});
     }
     return true;
 }

@@ -172,6 +172,11 @@ Nelvo [オプション]...
         <source>The target [%1] of the cell [%2:%3] is not a number and counts as 0.</source>
         <translation>セル [%2:%3] の目標値 [%1] は数値ではないため、0 とみなします。</translation>
     </message>
+    <message>
+        <source>English</source>
+        <comment>the name of the language of these texts</comment>
+        <translation>日本語</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

@@ -1,5 +1,7 @@
 #include "app/formtable.h"
 
+#include "support/panel.h"
+
 #include <QStringList>
 
 #include <initializer_list>
@@ -23,7 +25,7 @@ const char* const cells = "gridLayout_2";
 const char* const shutters = "gridLayout";
 const char* const bar = "horizontalLayout_2";
 
-/// A row of like widgets, "SName01" and on: `first` to `last` lie side by side from `column`.
+// A row of like widgets, "SName01" and on: `first` to `last` lie side by side from `column`.
 struct Series
 {
     const char* prefix;
@@ -39,8 +41,7 @@ QList<FormWidget> spread(const Series& series)
     for (int number = series.first; number <= series.last; ++number) {
         FormWidget widget = series.like;
         const int place = number - series.first;
-        widget.name
-            = QStringLiteral("%1%2").arg(QLatin1String(series.prefix)).arg(number, 2, 10, QChar(u'0'));
+        widget.name = cell(series.prefix, number - 1);
         widget.column += place;
         widget.text = series.texts.value(place, series.texts.first());
         widgets.append(widget);

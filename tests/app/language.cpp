@@ -1,3 +1,5 @@
+// The language that the command line and the program's name choose.
+
 #include "app/language.h"
 
 #include "support/testmain.h"
@@ -5,16 +7,7 @@
 #include <QFile>
 #include <QTranslator>
 
-class LanguageTest : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void chosenFromTheArguments_data();
-    void chosenFromTheArguments();
-    void catalogueLiesAtTheResourceRoot();
-    void englishNeedsNoCatalogue();
-};
+using namespace TestText;
 
 namespace {
 
@@ -25,57 +18,61 @@ QStringList words(const char* text)
 
 } // namespace
 
-void LanguageTest::chosenFromTheArguments_data()
+class LanguageTest : public QObject
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<bool>("english");
+    Q_OBJECT
 
-    QTest::newRow("no arguments at all") << QStringList() << false;
-    QTest::newRow("no switch: Japanese") << words("Nelvo") << false;
-    QTest::newRow("-j") << words("Nelvo -j") << false;
-    QTest::newRow("-e") << words("Nelvo -e") << true;
-    QTest::newRow("last wins: -e -j") << words("Nelvo -e -j") << false;
-    QTest::newRow("last wins: -j -e") << words("Nelvo -j -e") << true;
-    QTest::newRow("last wins: -e -j -e") << words("Nelvo -e -j -e") << true;
-    QTest::newRow("upper case is no switch") << words("Nelvo -E") << false;
-    QTest::newRow("upper-case J does not undo -e") << words("Nelvo -e -J") << true;
-    QTest::newRow("anywhere among other arguments") << words("Nelvo x --style -e y") << true;
-    QTest::newRow("longer words are no switch") << words("Nelvo -english -ej --e e -e=1") << false;
-    QTest::newRow("a switch with a space is none")
-        << QStringList{words("Nelvo")[0], QStringLiteral("-e ")} << false;
-    QTest::newRow("Nelvoe") << words("Nelvoe") << true;
-    QTest::newRow("Nelvoe with -j") << words("Nelvoe -j") << true;
-    QTest::newRow("in a directory's name") << words("/opt/Nelvoe-1.0/Nelvo -j") << true;
-    QTest::newRow("in the middle of the file's name") << words("C:\\lab\\MyNelvoes.exe -j") << true;
-    QTest::newRow("other case is another name") << words("/opt/nelvoe/NELVOE") << false;
-    QTest::newRow("only the program's own path counts") << words("Nelvo Nelvoe /opt/Nelvoe") << false;
-    QTest::newRow("a switch in the program's place is none") << words("-e") << false;
-}
+private slots:
+    void chosenFromTheArguments_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<bool>("english");
 
-void LanguageTest::chosenFromTheArguments()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(bool, english);
-    QCOMPARE(&chooseLanguage(arguments) == &::english(), english);
-    QCOMPARE(&chooseLanguage(arguments) == &japanese(), !english);
-}
+        QTest::newRow("no arguments at all") << QStringList() << false;
+        QTest::newRow("no switch: Japanese") << words("Nelvo") << false;
+        QTest::newRow("-j") << words("Nelvo -j") << false;
+        QTest::newRow("-e") << words("Nelvo -e") << true;
+        QTest::newRow("last wins: -e -j") << words("Nelvo -e -j") << false;
+        QTest::newRow("last wins: -j -e") << words("Nelvo -j -e") << true;
+        QTest::newRow("last wins: -e -j -e") << words("Nelvo -e -j -e") << true;
+        QTest::newRow("upper case is no switch") << words("Nelvo -E") << false;
+        QTest::newRow("upper-case J does not undo -e") << words("Nelvo -e -J") << true;
+        QTest::newRow("anywhere among other arguments") << words("Nelvo x --style -e y") << true;
+        QTest::newRow("longer words are no switch") << words("Nelvo -english -ej --e e -e=1") << false;
+        QTest::newRow("a switch with a space is none") << QStringList{words("Nelvo")[0], "-e "_s} << false;
+        QTest::newRow("Nelvoe") << words("Nelvoe") << true;
+        QTest::newRow("Nelvoe with -j") << words("Nelvoe -j") << true;
+        QTest::newRow("in a directory's name") << words("/opt/Nelvoe-1.0/Nelvo -j") << true;
+        QTest::newRow("in the middle of the file's name") << words("C:\\lab\\MyNelvoes.exe -j") << true;
+        QTest::newRow("other case is another name") << words("/opt/nelvoe/NELVOE") << false;
+        QTest::newRow("only the program's own path counts") << words("Nelvo Nelvoe /opt/Nelvoe") << false;
+        QTest::newRow("a switch in the program's place is none") << words("-e") << false;
+    }
 
-void LanguageTest::catalogueLiesAtTheResourceRoot()
-{
-    QTranslator translator;
-    QCOMPARE(japanese().catalogue, QStringLiteral(":Nelvo_ja_JP"));
-    QVERIFY(speak(japanese(), translator));
-    QVERIFY(QFile::exists(QStringLiteral(":/Nelvo_ja_JP.qm")));
-    QCOMPARE(QCoreApplication::translate("MBEMain", "Stop"), QStringLiteral("停止"));
-}
+    void chosenFromTheArguments()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(bool, english);
+        QCOMPARE(&chooseLanguage(arguments) == &::english(), english);
+        QCOMPARE(&chooseLanguage(arguments) == &japanese(), !english);
+    }
 
-void LanguageTest::englishNeedsNoCatalogue()
-{
-    QTranslator translator;
-    QVERIFY(!speak(english(), translator));
-    QCOMPARE(QCoreApplication::translate("MBEMain", "Stop"), QStringLiteral("Stop"));
-}
+    void catalogueLiesAtTheResourceRoot()
+    {
+        QTranslator translator;
+        QCOMPARE(japanese().catalogue, ":Nelvo_ja_JP"_s);
+        QVERIFY(speak(japanese(), translator));
+        QVERIFY(QFile::exists(":/Nelvo_ja_JP.qm"_s));
+        QCOMPARE(QCoreApplication::translate("MBEMain", "Stop"), "停止"_s);
+    }
+
+    void englishNeedsNoCatalogue()
+    {
+        QTranslator translator;
+        QVERIFY(!speak(english(), translator));
+        QCOMPARE(QCoreApplication::translate("MBEMain", "Stop"), "Stop"_s);
+    }
+};
 
 NELVO_TEST_MAIN(LanguageTest)
-
 #include "language.moc"

@@ -44,53 +44,46 @@ constexpr int entryCount = sizeof entries / sizeof entries[0];
 
 } // namespace
 
-class MBEMainMeta : public QObject
+class MBEMainMetaTest : public QObject
 {
     Q_OBJECT
 
-private slots:
-    void isAMainWindowOfItsOwnName();
-    void holdsTheListedMethodsOnly();
-    void method_data();
-    void method();
-
-private:
     const QMetaObject& meta = MBEMain::staticMetaObject;
+
+private slots:
+    void isAMainWindowOfItsOwnName()
+    {
+        QCOMPARE(meta.className(), "MBEMain");
+        QCOMPARE(meta.superClass(), &QMainWindow::staticMetaObject);
+    }
+
+    void holdsTheListedMethodsOnly()
+    {
+        QCOMPARE(meta.methodCount() - meta.methodOffset(), entryCount);
+        QCOMPARE(meta.propertyCount(), meta.propertyOffset());
+        QCOMPARE(meta.enumeratorCount(), meta.enumeratorOffset());
+        QCOMPARE(meta.classInfoCount(), meta.classInfoOffset());
+        QCOMPARE(meta.constructorCount(), 0);
+    }
+
+    void method_data()
+    {
+        QTest::addColumn<int>("index");
+        for (int index = 0; index < entryCount; ++index) {
+            QTest::newRow(entries[index].signature) << index;
+        }
+    }
+
+    void method()
+    {
+        QFETCH(int, index);
+        const QMetaMethod method = meta.method(meta.methodOffset() + index);
+        QCOMPARE(method.methodSignature(), QByteArray(entries[index].signature));
+        QCOMPARE(method.parameterNames().join(','), QByteArray(entries[index].parameters));
+        QCOMPARE(method.typeName(), "void");
+        QCOMPARE(method.methodType(), index == 0 ? QMetaMethod::Signal : QMetaMethod::Slot);
+    }
 };
 
-void MBEMainMeta::isAMainWindowOfItsOwnName()
-{
-    QCOMPARE(meta.className(), "MBEMain");
-    QCOMPARE(meta.superClass(), &QMainWindow::staticMetaObject);
-}
-
-void MBEMainMeta::holdsTheListedMethodsOnly()
-{
-    QCOMPARE(meta.methodCount() - meta.methodOffset(), entryCount);
-    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
-    QCOMPARE(meta.enumeratorCount(), meta.enumeratorOffset());
-    QCOMPARE(meta.classInfoCount(), meta.classInfoOffset());
-    QCOMPARE(meta.constructorCount(), 0);
-}
-
-void MBEMainMeta::method_data()
-{
-    QTest::addColumn<int>("index");
-    for (int index = 0; index < entryCount; ++index) {
-        QTest::newRow(entries[index].signature) << index;
-    }
-}
-
-void MBEMainMeta::method()
-{
-    QFETCH(int, index);
-    const QMetaMethod method = meta.method(meta.methodOffset() + index);
-    QCOMPARE(method.methodSignature(), QByteArray(entries[index].signature));
-    QCOMPARE(method.parameterNames().join(','), QByteArray(entries[index].parameters));
-    QCOMPARE(method.typeName(), "void");
-    QCOMPARE(method.methodType(), index == 0 ? QMetaMethod::Signal : QMetaMethod::Slot);
-}
-
-NELVO_TEST_MAIN(MBEMainMeta)
-
+NELVO_TEST_MAIN(MBEMainMetaTest)
 #include "mbemainmeta.moc"

@@ -31,6 +31,9 @@ private slots:
             return lines;
         };
 
+        guard.start();
+        QCOMPARE(said(), QStringList({"no throttling under a covered window"_s}));
+
         work = PcGuard::Work::Ramp;
         QTRY_COMPARE(told.size(), 1);
         QCOMPARE(said(), QStringList({"keep the PC awake"_s}));

@@ -2,28 +2,13 @@
 
 #include "app/formtable.h"
 #include "app/language.h"
-#include "app/mbemain.h"
-#include "support/scriptedadapter.h"
+#include "support/station.h"
 #include "support/testmain.h"
-#include "support/ticks.h"
 
-#include <QAbstractButton>
-#include <QLabel>
 #include <QLineEdit>
 #include <QTranslator>
 
-#include <memory>
-
-class WindowFit : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void initTestCase() { qputenv("NELVO_ADAPTER", ownLoopbackAddress().toLatin1()); }
-    void everyTextHasRoom_data();
-    void everyTextHasRoom();
-    void columnsStandUnderEachOther();
-};
+using namespace TestText;
 
 namespace {
 
@@ -32,7 +17,7 @@ QString textOf(const QWidget& widget)
     return widget.property("text").toString();
 }
 
-/// The width that the widget leaves for its text.
+// The width that the widget leaves for its text.
 int roomIn(const QWidget& widget)
 {
     const auto* edit = qobject_cast<const QLineEdit*>(&widget);
@@ -40,89 +25,89 @@ int roomIn(const QWidget& widget)
     return edit == nullptr ? widget.contentsRect().width() : widget.width() - 2 * (2 + 1);
 }
 
-/// Lays the window out at its initial size as showing it would, without a platform window.
-void layOut(MBEMain& window)
+// Lays the window out at its initial size as showing it would, without a platform window.
+void layOut(const Station& station)
 {
-    window.grab();
+    station.window().grab();
 }
 
-void showLongestTexts(MBEMain& window)
+void showLongestTexts(const Station& station)
 {
-    for (int number = 1; number <= 9; ++number) {
-        const auto named = [number](const char* prefix) {
-            return QStringLiteral("%1%2").arg(QLatin1String(prefix)).arg(number, 2, 10, QChar(u'0'));
-        };
-        window.findChild<QAbstractButton*>(named("TCActive"))->click();
-        window.findChild<QLabel*>(named("CDeg"))->setText(QStringLiteral("1234.5"));
-        window.findChild<QLabel*>(named("SDeg"))->setText(QStringLiteral("1234.5"));
-        window.findChild<QLabel*>(named("ETime"))->setText(QStringLiteral(" 1234.56"));
-        window.findChild<QLineEdit*>(named("TDeg"))->setText(QStringLiteral("1234.5"));
-        window.findChild<QLineEdit*>(named("DTime"))->setText(QStringLiteral("123.5"));
+    for (int channel = 0; channel < Channels::count; ++channel) {
+        station.click(cell("TCActive", channel));
+        for (const char* row : {"CDeg", "SDeg"}) {
+            station.find<QLabel>(cell(row, channel)).setText("1234.5"_s);
+        }
+        station.find<QLabel>(cell("ETime", channel)).setText(" 1234.56"_s);
+        station.find<QLineEdit>(cell("TDeg", channel)).setText("1234.5"_s);
+        station.find<QLineEdit>(cell("DTime", channel)).setText("123.5"_s);
     }
 }
 
 } // namespace
 
-void WindowFit::everyTextHasRoom_data()
+class WindowFitTest : public QObject
 {
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<bool>("longest");
-    for (const Language& language : languages()) {
-        QTest::addRow("%s, at start", qPrintable(language.argument)) << language.argument << false;
-        QTest::addRow("%s, longest texts", qPrintable(language.argument)) << language.argument << true;
-    }
-}
+    Q_OBJECT
 
-void WindowFit::everyTextHasRoom()
-{
-    QFETCH(QString, language);
-    QFETCH(bool, longest);
-    QTranslator translator;
-    QCOMPARE(speak(chooseLanguage({QString(), language}), translator), language == japanese().argument);
-    const HeldTicks held;
-    MBEMain window;
-    if (longest) {
-        showLongestTexts(window);
-    }
-    layOut(window);
-
-    QStringList cramped;
-    for (const FormWidget& listed : formWidgets()) {
-        const QWidget& widget = *widgetsNamed(window, listed.name).first();
-        const int needed = widget.fontMetrics().horizontalAdvance(textOf(widget));
-        // What lies on the tab in the background has not been laid out.
-        if (widget.isVisibleTo(&window) && needed > roomIn(widget)) {
-            cramped.append(QStringLiteral("%1: %2 needs %3 of %4")
-                               .arg(listed.name, textOf(widget), QString::number(needed),
-                                   QString::number(roomIn(widget))));
+private slots:
+    void everyTextHasRoom_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<bool>("longest");
+        for (const Language& language : languages()) {
+            QTest::addRow("%s, at start", qPrintable(language.argument)) << language.argument << false;
+            QTest::addRow("%s, longest texts", qPrintable(language.argument)) << language.argument << true;
         }
     }
-    QCOMPARE(cramped, QStringList());
-}
 
-void WindowFit::columnsStandUnderEachOther()
-{
-    const HeldTicks held;
-    MBEMain window;
-    layOut(window);
+    void everyTextHasRoom()
+    {
+        QFETCH(QString, language);
+        QFETCH(bool, longest);
+        QTranslator translator;
+        QCOMPARE(speak(chooseLanguage({QString(), language}), translator), language == japanese().argument);
+        Station station;
+        QVERIFY(station.open());
+        if (longest) {
+            showLongestTexts(station);
+        }
+        layOut(station);
 
-    const auto edges = [&window](const char* prefix, int number) {
-        const QString name
-            = QStringLiteral("%1%2").arg(QLatin1String(prefix)).arg(number, 2, 10, QChar(u'0'));
-        const QRect geometry = window.findChild<QWidget*>(name)->geometry();
-        return qMakePair(geometry.left(), geometry.right());
-    };
-    for (int number = 1; number <= 9; ++number) {
-        for (const char* prefix : {"TCActive", "CDeg", "TDeg", "DTime", "RunT", "SDeg", "ETime"}) {
-            QCOMPARE(edges(prefix, number), edges("CName", number));
+        QStringList cramped;
+        for (const FormWidget& listed : formWidgets()) {
+            const QWidget& widget = *widgetsNamed(station.window(), listed.name).first();
+            const int needed = widget.fontMetrics().horizontalAdvance(textOf(widget));
+            // What lies on the tab in the background has not been laid out.
+            if (widget.isVisibleTo(&station.window()) && needed > roomIn(widget)) {
+                cramped.append("%1: %2 needs %3 of %4"_s.arg(
+                    listed.name, textOf(widget), QString::number(needed), QString::number(roomIn(widget))));
+            }
+        }
+        QCOMPARE(cramped, QStringList());
+    }
+
+    void columnsStandUnderEachOther()
+    {
+        Station station;
+        QVERIFY(station.open());
+        layOut(station);
+
+        const auto edges = [&station](const char* row, int number) {
+            const QRect geometry = station.widget(cell(row, number)).geometry();
+            return qMakePair(geometry.left(), geometry.right());
+        };
+        for (int number = 0; number < Channels::count; ++number) {
+            for (const char* row : {"TCActive", "CDeg", "TDeg", "DTime", "RunT", "SDeg", "ETime"}) {
+                QCOMPARE(edges(row, number), edges("CName", number));
+            }
+        }
+        for (int number = 0; number < Channels::shutterCount; ++number) {
+            QCOMPARE(edges("CS", number), edges("SName", number));
+            QCOMPARE(edges("NS", number), edges("SName", number));
         }
     }
-    for (int number = 1; number <= 7; ++number) {
-        QCOMPARE(edges("CS", number), edges("SName", number));
-        QCOMPARE(edges("NS", number), edges("SName", number));
-    }
-}
+};
 
-NELVO_TEST_MAIN(WindowFit)
-
+NELVO_TEST_MAIN(WindowFitTest)
 #include "windowfit.moc"

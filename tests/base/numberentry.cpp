@@ -9,26 +9,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
-class NumberEntryTest : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void init();
-
-    void texts_data();
-    void texts();
-    void typedTextIsMadePlainAtOnce();
-    void composedTextIsMadePlainAtOnce();
-    void pastedTextIsMadePlainAtOnce();
-    void theCursorStaysWhereItWas();
-    void plainTextIsLeftAlone();
-    void whatTheProgramSetsStays();
-    void inputMethodsAreAskedForLatinNumbers();
-
-private:
-    std::unique_ptr<QLineEdit> entry;
-};
+using namespace TestText;
 
 namespace {
 
@@ -43,95 +24,102 @@ void typeInto(QLineEdit& entry, const QString& text)
 
 } // namespace
 
-void NumberEntryTest::init()
+class NumberEntryTest : public QObject
 {
-    entry = std::make_unique<QLineEdit>();
-    makeNumberEntry(*entry);
-}
+    Q_OBJECT
 
-void NumberEntryTest::texts_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("plain");
-    const auto row = [](const char* name, const char* text, const char* plain) {
-        QTest::newRow(name) << QString::fromUtf8(text) << QString::fromUtf8(plain);
-    };
-    row("empty", "", "");
-    row("plain", "-12.5e3", "-12.5e3");
-    row("full-width digits", "９５０", "950");
-    row("full-width point and sign", "－１２．５", "-12.5");
-    row("blanks", " 8 50 ", "850");
-    row("a wide blank", "850　", "850");
-    row("a no-break blank", "850\xC2\xA0", "850");
-    row("line ends and tabs", "\t850\r\n", "850");
-    row("a word stays", "hot", "hot");
-    row("a comma stays", "12,5", "12,5");
-    row("another script's digits stay", "٩٥٠", "٩٥٠");
-}
+    std::unique_ptr<QLineEdit> entry;
 
-void NumberEntryTest::texts()
-{
-    QFETCH(QString, text);
-    QFETCH(QString, plain);
-    QCOMPARE(plainNumberText(text), plain);
-    QCOMPARE(plainNumberText(plain), plain);
-}
+private slots:
+    void init()
+    {
+        entry = std::make_unique<QLineEdit>();
+        makeNumberEntry(*entry);
+    }
 
-void NumberEntryTest::typedTextIsMadePlainAtOnce()
-{
-    typeInto(*entry, QStringLiteral("９"));
-    QCOMPARE(entry->text(), QStringLiteral("9"));
-    typeInto(*entry, QStringLiteral("５ ０"));
-    QCOMPARE(entry->text(), QStringLiteral("950"));
-}
+    void texts_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("plain");
+        const auto row = [](const char* name, const char* text, const char* plain) {
+            QTest::newRow(name) << QString::fromUtf8(text) << QString::fromUtf8(plain);
+        };
+        row("empty", "", "");
+        row("plain", "-12.5e3", "-12.5e3");
+        row("full-width digits", "９５０", "950");
+        row("full-width point and sign", "－１２．５", "-12.5");
+        row("blanks", " 8 50 ", "850");
+        row("a wide blank", "850　", "850");
+        row("a no-break blank", "850\xC2\xA0", "850");
+        row("line ends and tabs", "\t850\r\n", "850");
+        row("a word stays", "hot", "hot");
+        row("a comma stays", "12,5", "12,5");
+        row("another script's digits stay", "٩٥٠", "٩٥٠");
+    }
 
-void NumberEntryTest::composedTextIsMadePlainAtOnce()
-{
-    QInputMethodEvent composed;
-    composed.setCommitString(QStringLiteral("９５０．５"));
-    QCoreApplication::sendEvent(entry.get(), &composed);
-    QCOMPARE(entry->text(), QStringLiteral("950.5"));
-}
+    void texts()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, plain);
+        QCOMPARE(plainNumberText(text), plain);
+        QCOMPARE(plainNumberText(plain), plain);
+    }
 
-void NumberEntryTest::pastedTextIsMadePlainAtOnce()
-{
-    QGuiApplication::clipboard()->setText(QStringLiteral(" ８５０\n"));
-    entry->paste();
-    QCOMPARE(entry->text(), QStringLiteral("850"));
-}
+    void typedTextIsMadePlainAtOnce()
+    {
+        typeInto(*entry, "９"_s);
+        QCOMPARE(entry->text(), "9"_s);
+        typeInto(*entry, "５ ０"_s);
+        QCOMPARE(entry->text(), "950"_s);
+    }
 
-void NumberEntryTest::theCursorStaysWhereItWas()
-{
-    entry->setText(QStringLiteral("10"));
-    entry->setCursorPosition(1);
-    typeInto(*entry, QStringLiteral("５"));
-    QCOMPARE(entry->text(), QStringLiteral("150"));
-    QCOMPARE(entry->cursorPosition(), 2);
-    typeInto(*entry, QStringLiteral(" "));
-    QCOMPARE(entry->cursorPosition(), 2);
-}
+    void composedTextIsMadePlainAtOnce()
+    {
+        QInputMethodEvent composed;
+        composed.setCommitString("９５０．５"_s);
+        QCoreApplication::sendEvent(entry.get(), &composed);
+        QCOMPARE(entry->text(), "950.5"_s);
+    }
 
-void NumberEntryTest::plainTextIsLeftAlone()
-{
-    QSignalSpy edits(entry.get(), &QLineEdit::textEdited);
-    typeInto(*entry, QStringLiteral("1.5"));
-    QCOMPARE(edits.count(), 3);
-    QCOMPARE(entry->text(), QStringLiteral("1.5"));
-    QVERIFY(!entry->hasSelectedText());
-}
+    void pastedTextIsMadePlainAtOnce()
+    {
+        QGuiApplication::clipboard()->setText(" ８５０\n"_s);
+        entry->paste();
+        QCOMPARE(entry->text(), "850"_s);
+    }
 
-void NumberEntryTest::whatTheProgramSetsStays()
-{
-    entry->setText(QStringLiteral(" ９５０ "));
-    QCOMPARE(entry->text(), QStringLiteral(" ９５０ "));
-}
+    void theCursorStaysWhereItWas()
+    {
+        entry->setText("10"_s);
+        entry->setCursorPosition(1);
+        typeInto(*entry, "５"_s);
+        QCOMPARE(entry->text(), "150"_s);
+        QCOMPARE(entry->cursorPosition(), 2);
+        typeInto(*entry, " "_s);
+        QCOMPARE(entry->cursorPosition(), 2);
+    }
 
-void NumberEntryTest::inputMethodsAreAskedForLatinNumbers()
-{
-    QVERIFY(entry->inputMethodHints() & Qt::ImhPreferLatin);
-    QVERIFY(entry->inputMethodHints() & Qt::ImhFormattedNumbersOnly);
-}
+    void plainTextIsLeftAlone()
+    {
+        QSignalSpy edits(entry.get(), &QLineEdit::textEdited);
+        typeInto(*entry, "1.5"_s);
+        QCOMPARE(edits.count(), 3);
+        QCOMPARE(entry->text(), "1.5"_s);
+        QVERIFY(!entry->hasSelectedText());
+    }
+
+    void whatTheProgramSetsStays()
+    {
+        entry->setText(" ９５０ "_s);
+        QCOMPARE(entry->text(), " ９５０ "_s);
+    }
+
+    void inputMethodsAreAskedForLatinNumbers()
+    {
+        QVERIFY(entry->inputMethodHints() & Qt::ImhPreferLatin);
+        QVERIFY(entry->inputMethodHints() & Qt::ImhFormattedNumbersOnly);
+    }
+};
 
 NELVO_TEST_MAIN(NumberEntryTest)
-
 #include "numberentry.moc"

@@ -9,28 +9,11 @@
 #include <QDir>
 #include <QFile>
 
-class WholeFileTest : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void cleanup();
-
-    void replacesAndCreates();
-    void appendsAndCreates();
-    void aLastLineWithoutAnEndGetsOne();
-    void aCutReplacementLeavesTheOldFile();
-    void aCutAppendIsTakenBack();
-    void aFolderWithoutNewFilesGetsTheOldOneWrittenOver();
-    void aFailureToWriteOverPutsTheOldTextBack();
-    void aFolderWithoutNewFilesGetsNoNewFile();
-    void aReadOnlyFileIsLeftAlone();
-    void whatIsNoFileIsLeftAlone();
-};
+using namespace TestText;
 
 namespace {
 
-const QString name = QStringLiteral("settings.dat");
+const QString name = "settings.dat"_s;
 constexpr auto everything = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
 
 // While it lives, no file can be made in the working directory.
@@ -60,122 +43,127 @@ QStringList filesHere()
         return;                                                                                              \
     }
 
-void WholeFileTest::cleanup()
+class WholeFileTest : public QObject
 {
-    for (const QString& file : filesHere()) {
-        QFile::setPermissions(file, everything);
-        QVERIFY(QFile::remove(file));
-    }
-}
+    Q_OBJECT
 
-void WholeFileTest::replacesAndCreates()
-{
-    QVERIFY(replaceFile(name, "a\nb\n"));
-    QCOMPARE(fileText(name), QByteArray("a\nb\n"));
-    QVERIFY(replaceFile(name, "c\n"));
-    QCOMPARE(fileText(name), QByteArray("c\n"));
-    QVERIFY(replaceFile(name, QByteArray()));
-    QCOMPARE(fileText(name), QByteArray());
-    QCOMPARE(filesHere(), QStringList(name));
-}
-
-void WholeFileTest::appendsAndCreates()
-{
-    QVERIFY(appendToFile(name, "a\n"));
-    QVERIFY(appendToFile(name, "b\nc\n"));
-    QCOMPARE(fileText(name), QByteArray("a\nb\nc\n"));
-}
-
-void WholeFileTest::aLastLineWithoutAnEndGetsOne()
-{
-    putFile(name, "a\nb");
-    QVERIFY(appendToFile(name, "c\n"));
-    QCOMPARE(fileText(name), QByteArray("a\nb\nc\n"));
-}
-
-void WholeFileTest::aCutReplacementLeavesTheOldFile()
-{
-    if (!FullDisk::isPossible()) {
-        QSKIP("needs a full disk");
-    }
-    putFile(name, "old\n");
+private slots:
+    void cleanup()
     {
-        const FullDisk full(4);
-        QVERIFY(!replaceFile(name, "longer\n"));
-    }
-    QCOMPARE(fileText(name), QByteArray("old\n"));
-    QCOMPARE(filesHere(), QStringList(name));
-}
-
-void WholeFileTest::aCutAppendIsTakenBack()
-{
-    if (!FullDisk::isPossible()) {
-        QSKIP("needs a full disk");
-    }
-    for (const QByteArray& before : {QByteArray("a 1\n"), QByteArray("a 1")}) {
-        putFile(name, before);
-        {
-            const FullDisk full(before.size() + 6);
-            QVERIFY(!appendToFile(name, "ActiveF3\tInActive\n"));
+        for (const QString& file : filesHere()) {
+            QFile::setPermissions(file, everything);
+            QVERIFY(QFile::remove(file));
         }
-        QCOMPARE(fileText(name), before);
-        QVERIFY(QFile::remove(name));
     }
-}
 
-void WholeFileTest::aFolderWithoutNewFilesGetsTheOldOneWrittenOver()
-{
-    AS_ORDINARY_USER()
-    for (const QByteArray& text : {QByteArray("new\n"), QByteArray("longer than the old text\n")}) {
+    void replacesAndCreates()
+    {
+        QVERIFY(replaceFile(name, "a\nb\n"));
+        QCOMPARE(fileText(name), QByteArray("a\nb\n"));
+        QVERIFY(replaceFile(name, "c\n"));
+        QCOMPARE(fileText(name), QByteArray("c\n"));
+        QVERIFY(replaceFile(name, QByteArray()));
+        QCOMPARE(fileText(name), QByteArray());
+        QCOMPARE(filesHere(), QStringList(name));
+    }
+
+    void appendsAndCreates()
+    {
+        QVERIFY(appendToFile(name, "a\n"));
+        QVERIFY(appendToFile(name, "b\nc\n"));
+        QCOMPARE(fileText(name), QByteArray("a\nb\nc\n"));
+    }
+
+    void aLastLineWithoutAnEndGetsOne()
+    {
+        putFile(name, "a\nb");
+        QVERIFY(appendToFile(name, "c\n"));
+        QCOMPARE(fileText(name), QByteArray("a\nb\nc\n"));
+    }
+
+    void aCutReplacementLeavesTheOldFile()
+    {
+        if (!FullDisk::isPossible()) {
+            QSKIP("needs a full disk");
+        }
+        putFile(name, "old\n");
+        {
+            const FullDisk full(4);
+            QVERIFY(!replaceFile(name, "longer\n"));
+        }
+        QCOMPARE(fileText(name), QByteArray("old\n"));
+        QCOMPARE(filesHere(), QStringList(name));
+    }
+
+    void aCutAppendIsTakenBack()
+    {
+        if (!FullDisk::isPossible()) {
+            QSKIP("needs a full disk");
+        }
+        for (const QByteArray& before : {QByteArray("a 1\n"), QByteArray("a 1")}) {
+            putFile(name, before);
+            {
+                const FullDisk full(before.size() + 6);
+                QVERIFY(!appendToFile(name, "ActiveF3\tInActive\n"));
+            }
+            QCOMPARE(fileText(name), before);
+            QVERIFY(QFile::remove(name));
+        }
+    }
+
+    void aFolderWithoutNewFilesGetsTheOldOneWrittenOver()
+    {
+        AS_ORDINARY_USER()
+        for (const QByteArray& text : {QByteArray("new\n"), QByteArray("longer than the old text\n")}) {
+            putFile(name, "the old text\n");
+            const ClosedFolder closed;
+            QVERIFY(replaceFile(name, text));
+            QCOMPARE(fileText(name), text);
+        }
+    }
+
+    void aFailureToWriteOverPutsTheOldTextBack()
+    {
+        AS_ORDINARY_USER()
         putFile(name, "the old text\n");
         const ClosedFolder closed;
-        QVERIFY(replaceFile(name, text));
-        QCOMPARE(fileText(name), text);
+        {
+            const FullDisk full(16);
+            QVERIFY(!replaceFile(name, "longer than the old text\n"));
+        }
+        QCOMPARE(fileText(name), QByteArray("the old text\n"));
     }
-}
 
-void WholeFileTest::aFailureToWriteOverPutsTheOldTextBack()
-{
-    AS_ORDINARY_USER()
-    putFile(name, "the old text\n");
-    const ClosedFolder closed;
+    void aFolderWithoutNewFilesGetsNoNewFile()
     {
-        const FullDisk full(16);
-        QVERIFY(!replaceFile(name, "longer than the old text\n"));
+        AS_ORDINARY_USER()
+        const ClosedFolder closed;
+        QVERIFY(!replaceFile(name, "new\n"));
+        QVERIFY(!appendToFile(name, "new\n"));
+        QCOMPARE(filesHere(), QStringList());
     }
-    QCOMPARE(fileText(name), QByteArray("the old text\n"));
-}
 
-void WholeFileTest::aFolderWithoutNewFilesGetsNoNewFile()
-{
-    AS_ORDINARY_USER()
-    const ClosedFolder closed;
-    QVERIFY(!replaceFile(name, "new\n"));
-    QVERIFY(!appendToFile(name, "new\n"));
-    QCOMPARE(filesHere(), QStringList());
-}
-
-void WholeFileTest::aReadOnlyFileIsLeftAlone()
-{
-    AS_ORDINARY_USER()
-    putFile(name, "old\n");
-    QVERIFY(QFile::setPermissions(name, QFileDevice::ReadOwner));
-    QVERIFY(!replaceFile(name, "new\n"));
-    QVERIFY(!appendToFile(name, "new\n"));
-    QCOMPARE(fileText(name), QByteArray("old\n"));
-}
-
-void WholeFileTest::whatIsNoFileIsLeftAlone()
-{
-    QVERIFY(QDir().mkdir(QStringLiteral("folder")));
-    for (const QString& place : {QStringLiteral("folder"), QStringLiteral("missing/file")}) {
-        QVERIFY(!replaceFile(place, "new\n"));
-        QVERIFY(!appendToFile(place, "new\n"));
+    void aReadOnlyFileIsLeftAlone()
+    {
+        AS_ORDINARY_USER()
+        putFile(name, "old\n");
+        QVERIFY(QFile::setPermissions(name, QFileDevice::ReadOwner));
+        QVERIFY(!replaceFile(name, "new\n"));
+        QVERIFY(!appendToFile(name, "new\n"));
+        QCOMPARE(fileText(name), QByteArray("old\n"));
     }
-    QVERIFY(QDir().rmdir(QStringLiteral("folder")));
-    QVERIFY(!QDir(QStringLiteral("missing")).exists());
-}
+
+    void whatIsNoFileIsLeftAlone()
+    {
+        QVERIFY(QDir().mkdir("folder"_s));
+        for (const QString& place : {"folder"_s, "missing/file"_s}) {
+            QVERIFY(!replaceFile(place, "new\n"));
+            QVERIFY(!appendToFile(place, "new\n"));
+        }
+        QVERIFY(QDir().rmdir("folder"_s));
+        QVERIFY(!QDir("missing"_s).exists());
+    }
+};
 
 NELVO_TEST_MAIN(WholeFileTest)
-
 #include "wholefile.moc"

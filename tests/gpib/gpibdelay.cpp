@@ -15,14 +15,7 @@
 #include <sys/socket.h>
 #endif
 
-class GpibDelayTest : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void nothingWaitsForAnAcknowledgement_data();
-    void nothingWaitsForAnAcknowledgement();
-};
+using namespace TestText;
 
 namespace {
 
@@ -50,34 +43,39 @@ int lowDelayOfConnectionTo(quint16 port)
 
 } // namespace
 
-void GpibDelayTest::nothingWaitsForAnAcknowledgement_data()
+class GpibDelayTest : public QObject
 {
-    QTest::addColumn<QString>("host");
-    QTest::newRow("by number") << QStringLiteral("127.0.0.1");
-    QTest::newRow("by name") << QStringLiteral("localhost");
-}
+    Q_OBJECT
 
-void GpibDelayTest::nothingWaitsForAnAcknowledgement()
-{
-#ifdef Q_OS_UNIX
-    QFETCH(QString, host);
-    const QHostAddress own(QHostAddress::LocalHost);
-    if (!QHostInfo::fromName(host).addresses().contains(own)) {
-        QSKIP("this machine does not know its own name localhost");
+private slots:
+    void nothingWaitsForAnAcknowledgement_data()
+    {
+        QTest::addColumn<QString>("host");
+        QTest::newRow("by number") << "127.0.0.1"_s;
+        QTest::newRow("by name") << "localhost"_s;
     }
-    QTcpServer server;
-    QVERIFY(server.listen(own));
-    GPIB gpib;
-    gpib.connectAdapter(host, server.serverPort());
-    QTRY_VERIFY(server.hasPendingConnections());
-    const std::unique_ptr<QTcpSocket> peer(server.nextPendingConnection());
-    QTRY_COMPARE(peer->bytesAvailable(), 6);
-    QCOMPARE(lowDelayOfConnectionTo(server.serverPort()), 1);
+
+    void nothingWaitsForAnAcknowledgement()
+    {
+#ifdef Q_OS_UNIX
+        QFETCH(QString, host);
+        const QHostAddress own(QHostAddress::LocalHost);
+        if (!QHostInfo::fromName(host).addresses().contains(own)) {
+            QSKIP("this machine does not know its own name localhost");
+        }
+        QTcpServer server;
+        QVERIFY(server.listen(own));
+        GPIB gpib;
+        gpib.connectAdapter(host, server.serverPort());
+        QTRY_VERIFY(server.hasPendingConnections());
+        const std::unique_ptr<QTcpSocket> peer(server.nextPendingConnection());
+        QTRY_COMPARE(peer->bytesAvailable(), 6);
+        QCOMPARE(lowDelayOfConnectionTo(server.serverPort()), 1);
 #else
-    QSKIP("the option of a socket in somebody else's hands cannot be asked for here");
+        QSKIP("the option of a socket in somebody else's hands cannot be asked for here");
 #endif
-}
+    }
+};
 
 NELVO_TEST_MAIN(GpibDelayTest)
-
 #include "gpibdelay.moc"

@@ -4,19 +4,6 @@
 
 #include "support/testmain.h"
 
-class LineBufferTest : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void linesKeepTheirEnd();
-    void anIncompleteLineWaits();
-    void everyCutGivesTheSameLines();
-    void aLongLineComesInPortions_data();
-    void aLongLineComesInPortions();
-    void clearingForgetsEverything();
-};
-
 namespace {
 
 QByteArrayList linesOf(LineBuffer& buffer)
@@ -30,80 +17,87 @@ QByteArrayList linesOf(LineBuffer& buffer)
 
 } // namespace
 
-void LineBufferTest::linesKeepTheirEnd()
+class LineBufferTest : public QObject
 {
-    LineBuffer buffer(100);
-    buffer.append("one\r\n\ntwo\n");
-    QCOMPARE(linesOf(buffer), (QByteArrayList{"one\r\n", "\n", "two\n"}));
-    QCOMPARE(buffer.size(), 0);
-}
+    Q_OBJECT
 
-void LineBufferTest::anIncompleteLineWaits()
-{
-    LineBuffer buffer(100);
-    QVERIFY(!buffer.takeLine());
-    buffer.append("a\nhalf");
-    QCOMPARE(linesOf(buffer), QByteArrayList{"a\n"});
-    QCOMPARE(buffer.size(), 4);
-    buffer.append(QByteArray());
-    QVERIFY(!buffer.takeLine());
-    buffer.append(" a line\nb");
-    QCOMPARE(linesOf(buffer), QByteArrayList{"half a line\n"});
-    QCOMPARE(buffer.size(), 1);
-}
+private slots:
+    void linesKeepTheirEnd()
+    {
+        LineBuffer buffer(100);
+        buffer.append("one\r\n\ntwo\n");
+        QCOMPARE(linesOf(buffer), (QByteArrayList{"one\r\n", "\n", "two\n"}));
+        QCOMPARE(buffer.size(), 0);
+    }
 
-void LineBufferTest::everyCutGivesTheSameLines()
-{
-    const QByteArray text("ab\n\ncdefgh\ni\nrest");
-    LineBuffer whole(4);
-    whole.append(text);
-    const QByteArrayList expected = linesOf(whole);
-    for (int first = 0; first <= text.size(); ++first) {
-        for (int second = first; second <= text.size(); ++second) {
-            LineBuffer buffer(4);
-            QByteArrayList lines;
-            for (const QByteArray& piece :
-                {text.left(first), text.mid(first, second - first), text.mid(second)}) {
-                buffer.append(piece);
-                lines += linesOf(buffer);
+    void anIncompleteLineWaits()
+    {
+        LineBuffer buffer(100);
+        QVERIFY(!buffer.takeLine());
+        buffer.append("a\nhalf");
+        QCOMPARE(linesOf(buffer), QByteArrayList{"a\n"});
+        QCOMPARE(buffer.size(), 4);
+        buffer.append(QByteArray());
+        QVERIFY(!buffer.takeLine());
+        buffer.append(" a line\nb");
+        QCOMPARE(linesOf(buffer), QByteArrayList{"half a line\n"});
+        QCOMPARE(buffer.size(), 1);
+    }
+
+    void everyCutGivesTheSameLines()
+    {
+        const QByteArray text("ab\n\ncdefgh\ni\nrest");
+        LineBuffer whole(4);
+        whole.append(text);
+        const QByteArrayList expected = linesOf(whole);
+        for (int first = 0; first <= text.size(); ++first) {
+            for (int second = first; second <= text.size(); ++second) {
+                LineBuffer buffer(4);
+                QByteArrayList lines;
+                for (const QByteArray& piece :
+                    {text.left(first), text.mid(first, second - first), text.mid(second)}) {
+                    buffer.append(piece);
+                    lines += linesOf(buffer);
+                }
+                QCOMPARE(lines, expected);
+                QCOMPARE(buffer.size(), 4);
             }
-            QCOMPARE(lines, expected);
-            QCOMPARE(buffer.size(), 4);
         }
     }
-}
 
-void LineBufferTest::aLongLineComesInPortions_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QByteArrayList>("lines");
-    QTest::newRow("at the limit") << QByteArray("abc\nd\n") << QByteArrayList{"abc\n", "d\n"};
-    QTest::newRow("the LF alone is left") << QByteArray("abcd\ne\n") << QByteArrayList{"abcd", "\n", "e\n"};
-    QTest::newRow("three portions") << QByteArray("abcdefghij\n") << QByteArrayList{"abcd", "efgh", "ij\n"};
-    QTest::newRow("without its end it waits") << QByteArray("abcdefghij") << QByteArrayList();
-}
+    void aLongLineComesInPortions_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QByteArrayList>("lines");
+        QTest::newRow("at the limit") << QByteArray("abc\nd\n") << QByteArrayList{"abc\n", "d\n"};
+        QTest::newRow("the LF alone is left")
+            << QByteArray("abcd\ne\n") << QByteArrayList{"abcd", "\n", "e\n"};
+        QTest::newRow("three portions")
+            << QByteArray("abcdefghij\n") << QByteArrayList{"abcd", "efgh", "ij\n"};
+        QTest::newRow("without its end it waits") << QByteArray("abcdefghij") << QByteArrayList();
+    }
 
-void LineBufferTest::aLongLineComesInPortions()
-{
-    QFETCH(QByteArray, text);
-    QFETCH(QByteArrayList, lines);
-    LineBuffer buffer(4);
-    buffer.append(text);
-    QCOMPARE(linesOf(buffer), lines);
-}
+    void aLongLineComesInPortions()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QByteArrayList, lines);
+        LineBuffer buffer(4);
+        buffer.append(text);
+        QCOMPARE(linesOf(buffer), lines);
+    }
 
-void LineBufferTest::clearingForgetsEverything()
-{
-    LineBuffer buffer(100);
-    buffer.append("a\nhalf");
-    QVERIFY(buffer.takeLine());
-    QVERIFY(!buffer.takeLine());
-    buffer.clear();
-    QCOMPARE(buffer.size(), 0);
-    buffer.append("b\n");
-    QCOMPARE(linesOf(buffer), QByteArrayList{"b\n"});
-}
+    void clearingForgetsEverything()
+    {
+        LineBuffer buffer(100);
+        buffer.append("a\nhalf");
+        QVERIFY(buffer.takeLine());
+        QVERIFY(!buffer.takeLine());
+        buffer.clear();
+        QCOMPARE(buffer.size(), 0);
+        buffer.append("b\n");
+        QCOMPARE(linesOf(buffer), QByteArrayList{"b\n"});
+    }
+};
 
 NELVO_TEST_MAIN(LineBufferTest)
-
 #include "linebuffer.moc"

@@ -1,6 +1,10 @@
+// The walk through blocks and repeats.
+
 #include "program/blockcursor.h"
 
 #include "support/testmain.h"
+
+using namespace TestText;
 
 namespace {
 
@@ -138,155 +142,138 @@ double totalOf(const Table& table)
 
 } // namespace
 
-class TestBlockCursor : public QObject
+class BlockCursorTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void everyShortTableIsWalkedByTheRules();
-    void blockAtTheEndOfTheTableIsNotRepeated();
-    void moveSaysWhereItWent();
-    void groupsAreComparedExactly();
-    void neighboursWithTheSameGroupAreOneBlock();
-    void timesOfLaterRowsHaveNoEffect();
-    void totalLeavesOutTheLastRow();
-    void totalEndsAtTheFirstZeroEvenInsideABlock();
-    void manyRepeatsAreExactAndQuick_data();
-    void manyRepeatsAreExactAndQuick();
-    void totalEqualsTheWalkWhereTheWalkIsLong();
-    void lastRepeatCannotOverflow();
+    void everyShortTableIsWalkedByTheRules()
+    {
+        const QVector<Row> choices = allRows();
+        qint64 tables = 0;
+        for (int size = 1; size <= 4; ++size) {
+            qint64 combinations = 1;
+            for (int i = 0; i < size; ++i) {
+                combinations *= choices.size();
+            }
+            Table table(size);
+            for (qint64 number = 0; number < combinations; ++number) {
+                qint64 rest = number;
+                for (Row& row : table) {
+                    row = choices[static_cast<int>(rest % choices.size())];
+                    rest /= choices.size();
+                }
+                ++tables;
+                const bool samePlay = playedByTheCursor(table) == playedByTheRules(table);
+                const bool sameTotal = totalOf(table) == totalByTheRules(table);
+                QVERIFY2(samePlay && sameTotal,
+                    qPrintable(
+                        "table %1 of %2 rows, play %3, total %4"_s.arg(number).arg(size).arg(samePlay).arg(
+                            sameTotal)));
+            }
+        }
+        QCOMPARE(tables, 27 + 27 * 27 + 27 * 27 * 27 + 27 * 27 * 27 * 27);
+    }
+
+    void blockAtTheEndOfTheTableIsNotRepeated()
+    {
+        const Table table{{1.0, "A"_s, 5}, {1.0, "A"_s, 1}};
+        QCOMPARE(playedByTheCursor(table).size(), 2);
+    }
+
+    void moveSaysWhereItWent()
+    {
+        const Table table{{1.0, "A"_s, 2}, {1.0, "A"_s, 1}, {1.0, QString(), 1}};
+        const TableRows rows(table);
+        BlockCursor cursor = BlockCursor::atStart(rows);
+        using Move = BlockCursor::Move;
+        for (const Move expected :
+            {Move::SameBlock, Move::Repeat, Move::SameBlock, Move::NextBlock, Move::TableEnd}) {
+            QVERIFY(cursor.advance(rows) == expected);
+        }
+        QCOMPARE(cursor.curStep, 3);
+    }
+
+    void groupsAreComparedExactly()
+    {
+        const Table table{
+            {1.0, "A"_s, 2}, {2.0, "a"_s, 1}, {4.0, "A "_s, 1}, {8.0, QString(), 1}, {0.0, QString(), 1}};
+        QCOMPARE(totalOf(table), 1.0 * 2 + 2.0 + 4.0 + 8.0);
+    }
+
+    void neighboursWithTheSameGroupAreOneBlock()
+    {
+        const Table table{{1.0, "A"_s, 2}, {2.0, "A"_s, 7}, {0.0, QString(), 1}};
+        QCOMPARE(totalOf(table), 6.0);
+    }
+
+    void timesOfLaterRowsHaveNoEffect()
+    {
+        const Table table{{1.0, "A"_s, 1}, {2.0, "A"_s, 1000}, {0.0, QString(), 1}};
+        QCOMPARE(totalOf(table), 3.0);
+    }
+
+    void totalLeavesOutTheLastRow()
+    {
+        Table table(200, {1.0, QString(), 1});
+        QCOMPARE(totalOf(table), 199.0);
+        QCOMPARE(playedByTheCursor(table).size(), 200);
+    }
+
+    void totalEndsAtTheFirstZeroEvenInsideABlock()
+    {
+        const Table table{{1.0, "A"_s, 2147483647}, {0.0, "A"_s, 1}, {1.0, "A"_s, 1}, {1.0, QString(), 1}};
+        QCOMPARE(totalOf(table), 1.0);
+    }
+
+    void manyRepeatsAreExactAndQuick_data()
+    {
+        QTest::addColumn<double>("time");
+        QTest::addColumn<bool>("ownGroups");
+        QTest::addColumn<double>("total");
+
+        constexpr double most = 2147483647.0;
+        QTest::newRow("199 blocks") << 1.0 << true << 199.0 * most;
+        QTest::newRow("one block of 199") << 0.5 << false << 199.0 * 0.5 * most;
+        QTest::newRow("199 blocks of hold points") << -1.0 << true << 0.0;
+        QTest::newRow("one block of hold points") << -1.0 << false << 0.0;
+    }
+
+    void manyRepeatsAreExactAndQuick()
+    {
+        QFETCH(double, time);
+        QFETCH(bool, ownGroups);
+        QFETCH(double, total);
+
+        Table table(200);
+        for (int k = 0; k < 199; ++k) {
+            table[k] = {time, ownGroups ? QString::number(k) : "A"_s, 2147483647};
+        }
+        QElapsedTimer timer;
+        timer.start();
+        QCOMPARE(totalOf(table), total);
+        QVERIFY2(timer.elapsed() < 1000, "the total was walked, not worked out");
+    }
+
+    void totalEqualsTheWalkWhereTheWalkIsLong()
+    {
+        // Times and sums that a double holds exactly, so that rounding cannot hide a pass too many.
+        const Table table{{0.5, "A"_s, 30000}, {0.25, "A"_s, 1}, {-1.0, "B"_s, 40000}, {8.0, "B"_s, 1},
+            {2.0, "C"_s, 70001}, {1.0, QString(), 1}, {0.0, QString(), 1}};
+        QCOMPARE(totalOf(table), totalByTheRules(table));
+    }
+
+    void lastRepeatCannotOverflow()
+    {
+        const Table table{{1.0, "A"_s, 2147483647}, {1.0, QString(), 1}, {0.0, QString(), 1}};
+        const TableRows rows(table);
+        BlockCursor cursor = BlockCursor::atStart(rows);
+        QVERIFY(cursor.advance(rows) == BlockCursor::Move::Repeat);
+        QCOMPARE(cursor.skipToLastPass(), 2147483645);
+        QVERIFY(cursor.advance(rows) == BlockCursor::Move::NextBlock);
+        QCOMPARE(cursor.curStep, 1);
+    }
 };
 
-void TestBlockCursor::everyShortTableIsWalkedByTheRules()
-{
-    const QVector<Row> choices = allRows();
-    qint64 tables = 0;
-    for (int size = 1; size <= 4; ++size) {
-        qint64 combinations = 1;
-        for (int i = 0; i < size; ++i) {
-            combinations *= choices.size();
-        }
-        Table table(size);
-        for (qint64 number = 0; number < combinations; ++number) {
-            qint64 rest = number;
-            for (Row& row : table) {
-                row = choices[static_cast<int>(rest % choices.size())];
-                rest /= choices.size();
-            }
-            ++tables;
-            const bool samePlay = playedByTheCursor(table) == playedByTheRules(table);
-            const bool sameTotal = totalOf(table) == totalByTheRules(table);
-            QVERIFY2(samePlay && sameTotal,
-                qPrintable(QStringLiteral("table %1 of %2 rows, play %3, total %4")
-                               .arg(number)
-                               .arg(size)
-                               .arg(samePlay)
-                               .arg(sameTotal)));
-        }
-    }
-    QCOMPARE(tables, 27 + 27 * 27 + 27 * 27 * 27 + 27 * 27 * 27 * 27);
-}
-
-void TestBlockCursor::blockAtTheEndOfTheTableIsNotRepeated()
-{
-    const Table table{{1.0, QStringLiteral("A"), 5}, {1.0, QStringLiteral("A"), 1}};
-    QCOMPARE(playedByTheCursor(table).size(), 2);
-}
-
-void TestBlockCursor::moveSaysWhereItWent()
-{
-    const Table table{{1.0, QStringLiteral("A"), 2}, {1.0, QStringLiteral("A"), 1}, {1.0, QString(), 1}};
-    const TableRows rows(table);
-    BlockCursor cursor = BlockCursor::atStart(rows);
-    using Move = BlockCursor::Move;
-    for (const Move expected :
-        {Move::SameBlock, Move::Repeat, Move::SameBlock, Move::NextBlock, Move::TableEnd}) {
-        QVERIFY(cursor.advance(rows) == expected);
-    }
-    QCOMPARE(cursor.curStep, 3);
-}
-
-void TestBlockCursor::groupsAreComparedExactly()
-{
-    const Table table{{1.0, QStringLiteral("A"), 2}, {2.0, QStringLiteral("a"), 1},
-        {4.0, QStringLiteral("A "), 1}, {8.0, QString(), 1}, {0.0, QString(), 1}};
-    QCOMPARE(totalOf(table), 1.0 * 2 + 2.0 + 4.0 + 8.0);
-}
-
-void TestBlockCursor::neighboursWithTheSameGroupAreOneBlock()
-{
-    const Table table{{1.0, QStringLiteral("A"), 2}, {2.0, QStringLiteral("A"), 7}, {0.0, QString(), 1}};
-    QCOMPARE(totalOf(table), 6.0);
-}
-
-void TestBlockCursor::timesOfLaterRowsHaveNoEffect()
-{
-    const Table table{{1.0, QStringLiteral("A"), 1}, {2.0, QStringLiteral("A"), 1000}, {0.0, QString(), 1}};
-    QCOMPARE(totalOf(table), 3.0);
-}
-
-void TestBlockCursor::totalLeavesOutTheLastRow()
-{
-    Table table(200, {1.0, QString(), 1});
-    QCOMPARE(totalOf(table), 199.0);
-    QCOMPARE(playedByTheCursor(table).size(), 200);
-}
-
-void TestBlockCursor::totalEndsAtTheFirstZeroEvenInsideABlock()
-{
-    const Table table{{1.0, QStringLiteral("A"), 2147483647}, {0.0, QStringLiteral("A"), 1},
-        {1.0, QStringLiteral("A"), 1}, {1.0, QString(), 1}};
-    QCOMPARE(totalOf(table), 1.0);
-}
-
-void TestBlockCursor::manyRepeatsAreExactAndQuick_data()
-{
-    QTest::addColumn<double>("time");
-    QTest::addColumn<bool>("ownGroups");
-    QTest::addColumn<double>("total");
-
-    constexpr double most = 2147483647.0;
-    QTest::newRow("199 blocks") << 1.0 << true << 199.0 * most;
-    QTest::newRow("one block of 199") << 0.5 << false << 199.0 * 0.5 * most;
-    QTest::newRow("199 blocks of hold points") << -1.0 << true << 0.0;
-    QTest::newRow("one block of hold points") << -1.0 << false << 0.0;
-}
-
-void TestBlockCursor::manyRepeatsAreExactAndQuick()
-{
-    QFETCH(double, time);
-    QFETCH(bool, ownGroups);
-    QFETCH(double, total);
-
-    Table table(200);
-    for (int k = 0; k < 199; ++k) {
-        table[k] = {time, ownGroups ? QString::number(k) : QStringLiteral("A"), 2147483647};
-    }
-    QElapsedTimer timer;
-    timer.start();
-    QCOMPARE(totalOf(table), total);
-    QVERIFY2(timer.elapsed() < 1000, "the total was walked, not worked out");
-}
-
-void TestBlockCursor::totalEqualsTheWalkWhereTheWalkIsLong()
-{
-    // Times and sums that a double holds exactly, so that rounding cannot hide a pass too many.
-    const Table table{{0.5, QStringLiteral("A"), 30000}, {0.25, QStringLiteral("A"), 1},
-        {-1.0, QStringLiteral("B"), 40000}, {8.0, QStringLiteral("B"), 1}, {2.0, QStringLiteral("C"), 70001},
-        {1.0, QString(), 1}, {0.0, QString(), 1}};
-    QCOMPARE(totalOf(table), totalByTheRules(table));
-}
-
-void TestBlockCursor::lastRepeatCannotOverflow()
-{
-    const Table table{{1.0, QStringLiteral("A"), 2147483647}, {1.0, QString(), 1}, {0.0, QString(), 1}};
-    const TableRows rows(table);
-    BlockCursor cursor = BlockCursor::atStart(rows);
-    QVERIFY(cursor.advance(rows) == BlockCursor::Move::Repeat);
-    QCOMPARE(cursor.skipToLastPass(), 2147483645);
-    QVERIFY(cursor.advance(rows) == BlockCursor::Move::NextBlock);
-    QCOMPARE(cursor.curStep, 1);
-}
-
-NELVO_TEST_MAIN(TestBlockCursor)
+NELVO_TEST_MAIN(BlockCursorTest)
 #include "blockcursor.moc"

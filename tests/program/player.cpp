@@ -1,256 +1,216 @@
-#include "program/programwindow.h"
+// Starting, pausing, holding and stopping a program, as its labels and buttons show it.
 
 #include "support/paintcount.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
-namespace {
+using namespace TestText;
 
-const QString yellow = QStringLiteral("background-color: rgb(255, 255, 15);");
-const QString olive = QStringLiteral("background-color: rgb(185, 185, 105);");
-
-} // namespace
-
-/// Starting, pausing, holding and stopping a program, as its labels and buttons show it.
-class TestPlayer : public QObject
+class PlayerTest : public OpenStationTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void emptyTableStopsOnTheFirstTick()
+    {
+        program().click("Run");
+        QVERIFY(program().isRunning());
+        QCOMPARE(program().label("DispTTime02"), "   0.0"_s);
+        program().tick();
+        QVERIFY(!program().isRunning());
+        QCOMPARE(program().button("Run").styleSheet(), olive);
+        QCOMPARE(program().marked(), QVector<int>());
+    }
 
-    void emptyTableStopsOnTheFirstTick();
-    void startShowsRunningAndStartsOnTheFirstTick();
-    void stepEndsOnceItsTimeHasPassed();
-    void labelsShowTimesWithOneDecimal();
-    void runningTimesDoNotRepaintTheTable();
-    void holdPointWaitsForTheOperator();
-    void pauseCountsTowardsTheStep();
-    void pauseShowsAndDoesNothingWhenIdle();
-    void stopKeepsTheMarkAndRestartBeginsAnew();
-    void stopWhilePausedThenStartRunsUnpaused();
-    void oneTickStartsOneStepHoweverLate();
-    void rowsAreReadWhenTheyAreReached();
+    void startShowsRunningAndStartsOnTheFirstTick()
+    {
+        program().enter(0, "5"_s);
+        program().click("Run");
+        QCOMPARE(program().button("Run").text(), "Stop"_s);
+        QCOMPARE(program().button("Run").styleSheet(), yellow);
+        QCOMPARE(program().button("Pause").text(), "Pause"_s);
+        QCOMPARE(program().button("Pause").styleSheet(), olive);
+        QCOMPARE(program().label("DispCount01"), "   1"_s);
+        QCOMPARE(program().label("DispCount02"), "   1"_s);
+        QCOMPARE(program().marked(), QVector<int>());
+        program().tick();
+        QCOMPARE(program().marked(), QVector<int>{1});
+        QCOMPARE(program().label("DispTime01"), "0"_s);
+        QCOMPARE(program().label("DispTime02"), "   5.0"_s);
+    }
 
-private:
-    ProgramWindow& table() { return *fresh; }
-    void run() { table().button("ProgRun")->click(); }
-    QString label(const char* name) { return table().label(name); }
+    void stepEndsOnceItsTimeHasPassed()
+    {
+        program().enter(0, "0.5"_s);
+        program().enter(1, "5"_s);
+        program().click("Run");
+        program().tick();
+        program().tick(500);
+        QCOMPARE(program().marked(), QVector<int>{1}); // exactly its time is not over
+        program().tick(1);
+        QCOMPARE(program().marked(), QVector<int>{2});
+    }
 
-    std::unique_ptr<ProgramWindow> fresh;
+    void labelsShowTimesWithOneDecimal()
+    {
+        program().enter(0, "12.5"_s);
+        program().enter(1, "1234.56"_s);
+        program().click("Run");
+        QCOMPARE(program().label("DispTTime02"), "1247.1"_s);
+        program().tick(10);
+        program().tick(1260);
+        QCOMPARE(program().label("DispTime01"), "   1.3"_s);
+        QCOMPARE(program().label("DispTTime01"), "   1.3"_s);
+        program().tick(20000);
+        QCOMPARE(program().label("DispTime01"), "0"_s);
+        QCOMPARE(program().label("DispTime02"), "1234.6"_s);
+        QCOMPARE(program().label("DispTTime01"), "  21.3"_s);
+        program().tick(100000);
+        QCOMPARE(program().label("DispTime01"), " 100.0"_s);
+        QCOMPARE(program().label("DispTTime01"), " 121.3"_s);
+    }
+
+    void runningTimesDoNotRepaintTheTable()
+    {
+        program().show();
+        program().enter(0, "60"_s);
+        program().click("Run");
+        program().tick(10);
+        const auto tickAndPaint = [this](int times) {
+            for (int i = 0; i < times; ++i) {
+                program().tick(100);
+                QCoreApplication::processEvents();
+            }
+        };
+        program().tick(10000);
+        tickAndPaint(10); // the labels have taken their room, and that is painted
+        PaintCount tablePaints(*program().time(0));
+        PaintCount labelPaints(station->find<QLabel>("DispTime01"_s));
+        tablePaints.take();
+        labelPaints.take();
+        tickAndPaint(10);
+        QVERIFY(labelPaints.take() >= 10);
+        QCOMPARE(tablePaints.take(), 0);
+    }
+
+    void holdPointWaitsForTheOperator()
+    {
+        program().enter(0, "-1"_s);
+        program().shutter(0, 2)->click();
+        program().setPoint(0, 1)->setText("40"_s);
+        program().enter(1, "5"_s);
+        program().click("Run");
+        program().tick();
+        QTRY_COMPARE(station->masks(), QByteArray("\x04"));
+        QVERIFY(program().isWaiting());
+        QCOMPARE(program().button("Pause").styleSheet(), yellow);
+        QCOMPARE(program().marked(), QVector<int>{1});
+        QCOMPARE(program().label("DispTime02"), "  -1.0"_s);
+        QCOMPARE(station->text(cell("TDeg", 1)), "0.0"_s); // no temperatures
+        QVERIFY(!station->isRamping(1));
+
+        for (int i = 0; i < 100; ++i) {
+            program().tick(1000);
+        }
+        QCOMPARE(program().marked(), QVector<int>{1});
+        QCOMPARE(program().label("DispTime01"), "0"_s);
+
+        program().click("Pause");
+        QCOMPARE(program().button("Pause").text(), "Pause"_s);
+        QCOMPARE(program().button("Pause").styleSheet(), olive);
+        program().tick();
+        QCOMPARE(program().marked(), QVector<int>{2});
+    }
+
+    void pauseCountsTowardsTheStep()
+    {
+        program().enter(0, "10"_s);
+        program().enter(1, "5"_s);
+        program().click("Run");
+        program().tick();
+        program().tick(2000);
+        program().click("Pause");
+        QVERIFY(program().isWaiting());
+        program().tick(30000);
+        QCOMPARE(program().marked(), QVector<int>{1});
+        QCOMPARE(program().label("DispTime01"), "   2.0"_s);
+        program().click("Pause");
+        program().tick();
+        QCOMPARE(program().marked(), QVector<int>{2});
+        QCOMPARE(program().label("DispTTime01"), "  32.0"_s);
+    }
+
+    void pauseShowsAndDoesNothingWhenIdle()
+    {
+        program().click("Pause");
+        QCOMPARE(program().button("Pause").text(), "Pause"_s);
+        QCOMPARE(program().button("Pause").styleSheet(), olive);
+    }
+
+    void stopKeepsTheMarkAndRestartBeginsAnew()
+    {
+        program().enter(0, "1"_s, "A"_s, "3"_s);
+        program().enter(1, "1"_s, "B"_s);
+        program().click("Run");
+        program().tick();
+        program().tick(1500);
+        QCOMPARE(program().label("DispCount01"), "   2"_s);
+        program().click("Run");
+        QVERIFY(!program().isRunning());
+        QCOMPARE(program().marked(), QVector<int>{1});
+        QCOMPARE(program().label("DispCount01"), "   2"_s);
+        program().click("Run");
+        QCOMPARE(program().label("DispCount01"), "   1"_s);
+        QCOMPARE(program().play(), QVector<int>({1, 1, 1, 2}));
+    }
+
+    void stopWhilePausedThenStartRunsUnpaused()
+    {
+        program().enter(0, "1"_s);
+        program().click("Run");
+        program().tick();
+        program().click("Pause");
+        program().click("Run");
+        QVERIFY(!program().isRunning());
+        QVERIFY(program().isWaiting()); // stopping leaves everything but the run as it is
+        program().click("Run");
+        QVERIFY(!program().isWaiting());
+        QCOMPARE(program().play(), QVector<int>{1});
+    }
+
+    void oneTickStartsOneStepHoweverLate()
+    {
+        for (int k = 0; k < 5; ++k) {
+            program().enter(k, "0.001"_s);
+        }
+        program().click("Run");
+        for (int step = 1; step <= 5; ++step) {
+            program().tick(60000);
+            QCOMPARE(program().marked(), QVector<int>{step});
+        }
+        program().tick(60000);
+        QVERIFY(!program().isRunning());
+    }
+
+    void rowsAreReadWhenTheyAreReached()
+    {
+        program().enter(0, "1"_s);
+        program().enter(1, "1"_s);
+        program().click("Run");
+        program().tick();
+        program().time(0)->setText("0.1"_s); // under way: its time was read
+        program().tick(500);
+        QCOMPARE(program().marked(), QVector<int>{1});
+        program().time(1)->setText("7"_s);
+        program().shutter(1, 6)->click();
+        program().tick(600);
+        QCOMPARE(program().label("DispTime02"), "   7.0"_s);
+        QTRY_COMPARE(station->masks(), QByteArray("\x00\x40", 2));
+        program().click("Clear");
+        program().tick(8000);
+        QVERIFY(!program().isRunning());
+    }
 };
 
-void TestPlayer::init()
-{
-    fresh = std::make_unique<ProgramWindow>();
-}
-
-void TestPlayer::cleanup()
-{
-    fresh.reset();
-}
-
-void TestPlayer::emptyTableStopsOnTheFirstTick()
-{
-    run();
-    QVERIFY(table().isRunning());
-    QCOMPARE(label("DispTTime02"), QStringLiteral("   0.0"));
-    table().tick();
-    QVERIFY(!table().isRunning());
-    QCOMPARE(table().button("ProgRun")->styleSheet(), olive);
-    QCOMPARE(table().marked(), QVector<int>());
-}
-
-void TestPlayer::startShowsRunningAndStartsOnTheFirstTick()
-{
-    table().enter(0, QStringLiteral("5"));
-    run();
-    QCOMPARE(table().button("ProgRun")->text(), QStringLiteral("Stop"));
-    QCOMPARE(table().button("ProgRun")->styleSheet(), yellow);
-    QCOMPARE(table().button("ProgPause")->text(), QStringLiteral("Pause"));
-    QCOMPARE(table().button("ProgPause")->styleSheet(), olive);
-    QCOMPARE(label("DispCount01"), QStringLiteral("   1"));
-    QCOMPARE(label("DispCount02"), QStringLiteral("   1"));
-    QCOMPARE(table().marked(), QVector<int>());
-    table().tick();
-    QCOMPARE(table().marked(), QVector<int>({1}));
-    QCOMPARE(label("DispTime01"), QStringLiteral("0"));
-    QCOMPARE(label("DispTime02"), QStringLiteral("   5.0"));
-}
-
-void TestPlayer::stepEndsOnceItsTimeHasPassed()
-{
-    table().enter(0, QStringLiteral("0.5"));
-    table().enter(1, QStringLiteral("5"));
-    run();
-    table().tick();
-    table().tick(500);
-    QCOMPARE(table().marked(), QVector<int>({1})); // exactly its time is not over
-    table().tick(1);
-    QCOMPARE(table().marked(), QVector<int>({2}));
-}
-
-void TestPlayer::labelsShowTimesWithOneDecimal()
-{
-    table().enter(0, QStringLiteral("12.5"));
-    table().enter(1, QStringLiteral("1234.56"));
-    run();
-    QCOMPARE(label("DispTTime02"), QStringLiteral("1247.1"));
-    table().tick(10);
-    table().tick(1260);
-    QCOMPARE(label("DispTime01"), QStringLiteral("   1.3"));
-    QCOMPARE(label("DispTTime01"), QStringLiteral("   1.3"));
-    table().tick(20000);
-    QCOMPARE(label("DispTime01"), QStringLiteral("0"));
-    QCOMPARE(label("DispTime02"), QStringLiteral("1234.6"));
-    QCOMPARE(label("DispTTime01"), QStringLiteral("  21.3"));
-    table().tick(100000);
-    QCOMPARE(label("DispTime01"), QStringLiteral(" 100.0"));
-    QCOMPARE(label("DispTTime01"), QStringLiteral(" 121.3"));
-}
-
-void TestPlayer::runningTimesDoNotRepaintTheTable()
-{
-    table().show();
-    table().enter(0, QStringLiteral("60"));
-    run();
-    table().tick(10);
-    const auto tickAndPaint = [this](int times) {
-        for (int i = 0; i < times; ++i) {
-            table().tick(100);
-            QCoreApplication::processEvents();
-        }
-    };
-    table().tick(10000);
-    tickAndPaint(10); // the labels have taken their room, and that is painted
-    PaintCount tablePaints(*table().time(0));
-    PaintCount labelPaints(*table().window().findChild<QLabel*>(QStringLiteral("DispTime01")));
-    tablePaints.take();
-    labelPaints.take();
-    tickAndPaint(10);
-    QVERIFY(labelPaints.take() >= 10);
-    QCOMPARE(tablePaints.take(), 0);
-}
-
-void TestPlayer::holdPointWaitsForTheOperator()
-{
-    table().enter(0, QStringLiteral("-1"));
-    table().shutter(0, 2)->click();
-    table().setPoint(0, 1)->setText(QStringLiteral("40"));
-    table().enter(1, QStringLiteral("5"));
-    table().forgetCommands();
-    run();
-    table().tick();
-    QTRY_COMPARE(table().masks(), QByteArray("\x04"));
-    QVERIFY(table().isWaiting());
-    QCOMPARE(table().button("ProgPause")->styleSheet(), yellow);
-    QCOMPARE(table().marked(), QVector<int>({1}));
-    QCOMPARE(label("DispTime02"), QStringLiteral("  -1.0"));
-    QCOMPARE(table().edit("TDeg02")->text(), QStringLiteral("0.0")); // no temperatures
-    QCOMPARE(table().button("RunT02")->text(), QStringLiteral("Run"));
-
-    for (int i = 0; i < 100; ++i) {
-        table().tick(1000);
-    }
-    QCOMPARE(table().marked(), QVector<int>({1}));
-    QCOMPARE(label("DispTime01"), QStringLiteral("0"));
-
-    QTest::mouseClick(table().button("ProgPause"), Qt::LeftButton);
-    QCOMPARE(table().button("ProgPause")->text(), QStringLiteral("Pause"));
-    QCOMPARE(table().button("ProgPause")->styleSheet(), olive);
-    table().tick();
-    QCOMPARE(table().marked(), QVector<int>({2}));
-}
-
-void TestPlayer::pauseCountsTowardsTheStep()
-{
-    table().enter(0, QStringLiteral("10"));
-    table().enter(1, QStringLiteral("5"));
-    run();
-    table().tick();
-    table().tick(2000);
-    QTest::mouseClick(table().button("ProgPause"), Qt::LeftButton);
-    QVERIFY(table().isWaiting());
-    table().tick(30000);
-    QCOMPARE(table().marked(), QVector<int>({1}));
-    QCOMPARE(label("DispTime01"), QStringLiteral("   2.0"));
-    QTest::mouseClick(table().button("ProgPause"), Qt::LeftButton);
-    table().tick();
-    QCOMPARE(table().marked(), QVector<int>({2}));
-    QCOMPARE(label("DispTTime01"), QStringLiteral("  32.0"));
-}
-
-void TestPlayer::pauseShowsAndDoesNothingWhenIdle()
-{
-    QTest::mouseClick(table().button("ProgPause"), Qt::LeftButton);
-    QCOMPARE(table().button("ProgPause")->text(), QStringLiteral("Pause"));
-    QCOMPARE(table().button("ProgPause")->styleSheet(), olive);
-}
-
-void TestPlayer::stopKeepsTheMarkAndRestartBeginsAnew()
-{
-    table().enter(0, QStringLiteral("1"), QStringLiteral("A"), QStringLiteral("3"));
-    table().enter(1, QStringLiteral("1"), QStringLiteral("B"));
-    run();
-    table().tick();
-    table().tick(1500);
-    QCOMPARE(label("DispCount01"), QStringLiteral("   2"));
-    run();
-    QVERIFY(!table().isRunning());
-    QCOMPARE(table().marked(), QVector<int>({1}));
-    QCOMPARE(label("DispCount01"), QStringLiteral("   2"));
-    run();
-    QCOMPARE(label("DispCount01"), QStringLiteral("   1"));
-    QCOMPARE(table().play(), QVector<int>({1, 1, 1, 2}));
-}
-
-void TestPlayer::stopWhilePausedThenStartRunsUnpaused()
-{
-    table().enter(0, QStringLiteral("1"));
-    run();
-    table().tick();
-    table().button("ProgPause")->click();
-    run();
-    QVERIFY(!table().isRunning());
-    QVERIFY(table().isWaiting()); // stopping leaves everything but the run as it is
-    run();
-    QVERIFY(!table().isWaiting());
-    QCOMPARE(table().play(), QVector<int>({1}));
-}
-
-void TestPlayer::oneTickStartsOneStepHoweverLate()
-{
-    for (int k = 0; k < 5; ++k) {
-        table().enter(k, QStringLiteral("0.001"));
-    }
-    run();
-    for (int step = 1; step <= 5; ++step) {
-        table().tick(60000);
-        QCOMPARE(table().marked(), QVector<int>({step}));
-    }
-    table().tick(60000);
-    QVERIFY(!table().isRunning());
-}
-
-void TestPlayer::rowsAreReadWhenTheyAreReached()
-{
-    table().enter(0, QStringLiteral("1"));
-    table().enter(1, QStringLiteral("1"));
-    run();
-    table().tick();
-    table().time(0)->setText(QStringLiteral("0.1")); // under way: its time was read
-    table().tick(500);
-    QCOMPARE(table().marked(), QVector<int>({1}));
-    table().time(1)->setText(QStringLiteral("7"));
-    table().shutter(1, 6)->click();
-    table().forgetCommands();
-    table().tick(600);
-    QCOMPARE(label("DispTime02"), QStringLiteral("   7.0"));
-    QTRY_COMPARE(table().masks(), QByteArray("\x40"));
-    table().button("ProgClear")->click();
-    table().tick(8000);
-    QVERIFY(!table().isRunning());
-}
-
-NELVO_TEST_MAIN(TestPlayer)
+NELVO_TEST_MAIN(PlayerTest)
 #include "player.moc"

@@ -1,192 +1,160 @@
-#include "program/programwindow.h"
+// The player's way through groups and repeats, and the total time, as the labels show them.
 
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
-/// The player's way through groups and repeats, and the total time, as the labels show them.
-class TestPlayerWalk : public QObject
+using namespace TestText;
+
+class PlayerWalkTest : public OpenStationTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void groupIsPlayedThreeTimes()
+    {
+        program().enter(0, "0.5"_s, "A"_s, "3"_s);
+        program().enter(1, "0.25"_s, "A"_s);
+        program().enter(2, "1.25"_s, "A"_s);
+        program().click("Run");
+        QCOMPARE(program().label("DispTTime02"), "   6.0"_s);
+        QStringList counts;
+        QVector<int> steps;
+        for (int i = 0; i < 10000 && program().isRunning(); ++i) {
+            program().tick();
+            const QString count = program().label("DispCount01") + program().label("DispCount02");
+            if (counts.isEmpty() || counts.last() != count) {
+                counts.append(count);
+            }
+            if (program().isRunning() && program().label("DispTime01") == "0"_s) {
+                steps += program().marked();
+            }
+        }
+        QCOMPARE(steps, QVector<int>({1, 2, 3, 1, 2, 3, 1, 2, 3}));
+        // At the end the next block, of the row that ends the program, has been entered.
+        QCOMPARE(counts, QStringList({"   1   3"_s, "   2   3"_s, "   3   3"_s, "   1   1"_s}));
+    }
 
-    void groupIsPlayedThreeTimes();
-    void timesOfALaterRowHasNoEffect();
-    void neighboursWithTheSameGroupAreOneBlock();
-    void repeatCountBelowOneRunsOnce_data();
-    void repeatCountBelowOneRunsOnce();
-    void lastRowIsPlayedButNotCounted();
-    void groupAtTheEndOfTheTableIsNotRepeated();
-    void textThatIsNoNumberEndsTheProgram();
-    void checkButtonShowsTheTotal();
-    void checkWhileRunningLeavesTheRunAlone();
-    void checkOfHugeRepeatsAnswersAtOnce();
-    void repeatCountIsReadWhenTheBlockIsEntered();
+    void timesOfALaterRowHasNoEffect()
+    {
+        program().enter(0, "0.1"_s, "A"_s, "1"_s);
+        program().enter(1, "0.1"_s, "A"_s, "9"_s);
+        program().click("Run");
+        QCOMPARE(program().label("DispTTime02"), "   0.2"_s);
+        QCOMPARE(program().play(), QVector<int>({1, 2}));
+    }
 
-private:
-    ProgramWindow& table() { return *fresh; }
-    void run() { table().button("ProgRun")->click(); }
-    QString label(const char* name) { return table().label(name); }
+    void neighboursWithTheSameGroupAreOneBlock()
+    {
+        program().enter(0, "0.1"_s, "A"_s, "2"_s);
+        program().enter(1, "0.1"_s, "A"_s, "3"_s);
+        program().enter(2, "0.1"_s, "a"_s, "2"_s);
+        program().click("Run");
+        QCOMPARE(program().play(), QVector<int>({1, 2, 1, 2, 3, 3}));
+    }
 
-    std::unique_ptr<ProgramWindow> fresh;
+    void repeatCountBelowOneRunsOnce_data()
+    {
+        QTest::addColumn<QString>("times");
+        for (const char* times : {"0", "-5", "many", ""}) {
+            QTest::newRow(times) << QString::fromLatin1(times);
+        }
+    }
+
+    void repeatCountBelowOneRunsOnce()
+    {
+        QFETCH(QString, times);
+        program().enter(0, "0.1"_s, "A"_s, times);
+        program().enter(1, "0.1"_s, "B"_s, "2"_s);
+        program().click("Run");
+        QCOMPARE(program().label("DispCount01"), "----"_s);
+        QCOMPARE(program().label("DispCount02"), "----"_s);
+        QCOMPARE(program().label("DispTTime02"), "   0.3"_s);
+        QCOMPARE(program().play(), QVector<int>({1, 2, 2}));
+    }
+
+    void lastRowIsPlayedButNotCounted()
+    {
+        for (int k = 0; k < ProgramTab::rows - 1; ++k) {
+            program().enter(k, "0.01"_s);
+        }
+        program().enter(ProgramTab::rows - 1, "5"_s);
+        program().click("Run");
+        QCOMPARE(program().label("DispTTime02"), "   2.0"_s); // 1.99, and not the 5 of the last row
+        const QVector<int> steps = program().play();
+        QCOMPARE(steps.size(), ProgramTab::rows);
+        QCOMPARE(steps.last(), ProgramTab::rows);
+        QVERIFY(!program().isRunning());
+        QCOMPARE(program().marked(), QVector<int>());
+    }
+
+    void groupAtTheEndOfTheTableIsNotRepeated()
+    {
+        for (int k = 0; k < ProgramTab::rows; ++k) {
+            program().enter(k, "0.01"_s, "A"_s, "5"_s);
+        }
+        program().click("Run");
+        QCOMPARE(program().play().size(), ProgramTab::rows);
+    }
+
+    void textThatIsNoNumberEndsTheProgram()
+    {
+        program().enter(0, "0.1"_s);
+        program().enter(1, "a while"_s);
+        program().enter(2, "0.1"_s);
+        program().click("Run");
+        QCOMPARE(program().label("DispTTime02"), "   0.1"_s);
+        QCOMPARE(program().play(), QVector<int>{1});
+    }
+
+    void checkButtonShowsTheTotal()
+    {
+        program().enter(0, "10"_s, "A"_s, "4"_s);
+        program().enter(1, "-1"_s, "A"_s);
+        program().enter(2, "2.5"_s);
+        program().click("Check");
+        QCOMPARE(program().label("DispTTime02"), "  42.5"_s);
+        QVERIFY(!program().isRunning());
+    }
+
+    void checkWhileRunningLeavesTheRunAlone()
+    {
+        program().enter(0, "0.1"_s, "A"_s, "3"_s);
+        program().enter(1, "0.1"_s, "B"_s);
+        program().click("Run");
+        QCOMPARE(program().play(15), QVector<int>({1, 1}));
+        program().click("Check");
+        QCOMPARE(program().label("DispCount01"), "   2"_s);
+        QCOMPARE(program().play(), QVector<int>({1, 2}));
+    }
+
+    void checkOfHugeRepeatsAnswersAtOnce()
+    {
+        for (int k = 0; k < ProgramTab::rows - 1; ++k) {
+            program().enter(k, "1"_s, QString::number(k), "2147483647"_s);
+        }
+        QElapsedTimer timer;
+        timer.start();
+        program().click("Check");
+        QCOMPARE(program().label("DispTTime02"), "427349245753.0"_s);
+        for (int k = 0; k < ProgramTab::rows - 1; ++k) {
+            program().time(k)->setText("-1"_s);
+        }
+        program().click("Check");
+        QCOMPARE(program().label("DispTTime02"), "   0.0"_s);
+        QVERIFY(timer.elapsed() < 2000);
+    }
+
+    void repeatCountIsReadWhenTheBlockIsEntered()
+    {
+        program().enter(0, "0.1"_s, "A"_s, "2"_s);
+        program().enter(1, "0.1"_s, "B"_s, "1"_s);
+        program().click("Run");
+        program().tick();
+        program().times(0)->setText("50"_s);
+        program().times(1)->setText("3"_s);
+        QCOMPARE(program().play(), QVector<int>({1, 2, 2, 2}));
+    }
 };
 
-void TestPlayerWalk::init()
-{
-    fresh = std::make_unique<ProgramWindow>();
-}
-
-void TestPlayerWalk::cleanup()
-{
-    fresh.reset();
-}
-
-void TestPlayerWalk::groupIsPlayedThreeTimes()
-{
-    table().enter(0, QStringLiteral("0.5"), QStringLiteral("A"), QStringLiteral("3"));
-    table().enter(1, QStringLiteral("0.25"), QStringLiteral("A"));
-    table().enter(2, QStringLiteral("1.25"), QStringLiteral("A"));
-    run();
-    QCOMPARE(label("DispTTime02"), QStringLiteral("   6.0"));
-    QStringList counts;
-    QVector<int> steps;
-    for (int i = 0; i < 10000 && table().isRunning(); ++i) {
-        table().tick();
-        if (counts.isEmpty() || counts.last() != label("DispCount01") + label("DispCount02")) {
-            counts.append(label("DispCount01") + label("DispCount02"));
-        }
-        if (table().isRunning() && label("DispTime01") == QLatin1String("0")) {
-            steps += table().marked();
-        }
-    }
-    QCOMPARE(steps, QVector<int>({1, 2, 3, 1, 2, 3, 1, 2, 3}));
-    // At the end the next block, of the row that ends the program, has been entered.
-    QCOMPARE(counts,
-        QStringList({QStringLiteral("   1   3"), QStringLiteral("   2   3"), QStringLiteral("   3   3"),
-            QStringLiteral("   1   1")}));
-}
-
-void TestPlayerWalk::timesOfALaterRowHasNoEffect()
-{
-    table().enter(0, QStringLiteral("0.1"), QStringLiteral("A"), QStringLiteral("1"));
-    table().enter(1, QStringLiteral("0.1"), QStringLiteral("A"), QStringLiteral("9"));
-    run();
-    QCOMPARE(label("DispTTime02"), QStringLiteral("   0.2"));
-    QCOMPARE(table().play(), QVector<int>({1, 2}));
-}
-
-void TestPlayerWalk::neighboursWithTheSameGroupAreOneBlock()
-{
-    table().enter(0, QStringLiteral("0.1"), QStringLiteral("A"), QStringLiteral("2"));
-    table().enter(1, QStringLiteral("0.1"), QStringLiteral("A"), QStringLiteral("3"));
-    table().enter(2, QStringLiteral("0.1"), QStringLiteral("a"), QStringLiteral("2"));
-    run();
-    QCOMPARE(table().play(), QVector<int>({1, 2, 1, 2, 3, 3}));
-}
-
-void TestPlayerWalk::repeatCountBelowOneRunsOnce_data()
-{
-    QTest::addColumn<QString>("times");
-    for (const char* times : {"0", "-5", "many", ""}) {
-        QTest::newRow(times) << QString::fromLatin1(times);
-    }
-}
-
-void TestPlayerWalk::repeatCountBelowOneRunsOnce()
-{
-    QFETCH(QString, times);
-    table().enter(0, QStringLiteral("0.1"), QStringLiteral("A"), times);
-    table().enter(1, QStringLiteral("0.1"), QStringLiteral("B"), QStringLiteral("2"));
-    run();
-    QCOMPARE(label("DispCount01"), QStringLiteral("----"));
-    QCOMPARE(label("DispCount02"), QStringLiteral("----"));
-    QCOMPARE(label("DispTTime02"), QStringLiteral("   0.3"));
-    QCOMPARE(table().play(), QVector<int>({1, 2, 2}));
-}
-
-void TestPlayerWalk::lastRowIsPlayedButNotCounted()
-{
-    for (int k = 0; k < 199; ++k) {
-        table().enter(k, QStringLiteral("0.01"));
-    }
-    table().enter(199, QStringLiteral("5"));
-    run();
-    QCOMPARE(label("DispTTime02"), QStringLiteral("   2.0")); // 1.99, and not the 5 of the last row
-    const QVector<int> steps = table().play();
-    QCOMPARE(steps.size(), 200);
-    QCOMPARE(steps.last(), 200);
-    QVERIFY(!table().isRunning());
-    QCOMPARE(table().marked(), QVector<int>());
-}
-
-void TestPlayerWalk::groupAtTheEndOfTheTableIsNotRepeated()
-{
-    for (int k = 0; k < 200; ++k) {
-        table().enter(k, QStringLiteral("0.01"), QStringLiteral("A"), QStringLiteral("5"));
-    }
-    run();
-    QCOMPARE(table().play().size(), 200);
-}
-
-void TestPlayerWalk::textThatIsNoNumberEndsTheProgram()
-{
-    table().enter(0, QStringLiteral("0.1"));
-    table().enter(1, QStringLiteral("a while"));
-    table().enter(2, QStringLiteral("0.1"));
-    run();
-    QCOMPARE(label("DispTTime02"), QStringLiteral("   0.1"));
-    QCOMPARE(table().play(), QVector<int>({1}));
-}
-
-void TestPlayerWalk::checkButtonShowsTheTotal()
-{
-    table().enter(0, QStringLiteral("10"), QStringLiteral("A"), QStringLiteral("4"));
-    table().enter(1, QStringLiteral("-1"), QStringLiteral("A"));
-    table().enter(2, QStringLiteral("2.5"));
-    QTest::mouseClick(table().button("ProgCheck"), Qt::LeftButton);
-    QCOMPARE(label("DispTTime02"), QStringLiteral("  42.5"));
-    QVERIFY(!table().isRunning());
-}
-
-void TestPlayerWalk::checkWhileRunningLeavesTheRunAlone()
-{
-    table().enter(0, QStringLiteral("0.1"), QStringLiteral("A"), QStringLiteral("3"));
-    table().enter(1, QStringLiteral("0.1"), QStringLiteral("B"));
-    run();
-    QCOMPARE(table().play(15), QVector<int>({1, 1}));
-    QTest::mouseClick(table().button("ProgCheck"), Qt::LeftButton);
-    QCOMPARE(label("DispCount01"), QStringLiteral("   2"));
-    QCOMPARE(table().play(), QVector<int>({1, 2}));
-}
-
-void TestPlayerWalk::checkOfHugeRepeatsAnswersAtOnce()
-{
-    for (int k = 0; k < 199; ++k) {
-        table().enter(k, QStringLiteral("1"), QString::number(k), QStringLiteral("2147483647"));
-    }
-    QElapsedTimer timer;
-    timer.start();
-    table().button("ProgCheck")->click();
-    QCOMPARE(label("DispTTime02"), QStringLiteral("427349245753.0"));
-    for (int k = 0; k < 199; ++k) {
-        table().time(k)->setText(QStringLiteral("-1"));
-    }
-    table().button("ProgCheck")->click();
-    QCOMPARE(label("DispTTime02"), QStringLiteral("   0.0"));
-    QVERIFY(timer.elapsed() < 2000);
-}
-
-void TestPlayerWalk::repeatCountIsReadWhenTheBlockIsEntered()
-{
-    table().enter(0, QStringLiteral("0.1"), QStringLiteral("A"), QStringLiteral("2"));
-    table().enter(1, QStringLiteral("0.1"), QStringLiteral("B"), QStringLiteral("1"));
-    run();
-    table().tick();
-    table().times(0)->setText(QStringLiteral("50"));
-    table().times(1)->setText(QStringLiteral("3"));
-    QCOMPARE(table().play(), QVector<int>({1, 2, 2, 2}));
-}
-
-NELVO_TEST_MAIN(TestPlayerWalk)
+NELVO_TEST_MAIN(PlayerWalkTest)
 #include "playerwalk.moc"

@@ -1,163 +1,150 @@
-#include "program/programwindow.h"
+// The dialogs that choose a program's file.
 
+#include "support/files.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
+#include <QApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileDialog>
 #include <QStandardPaths>
 #include <QTimer>
+
+using namespace TestText;
 
 namespace {
 
 QString folder()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::DesktopLocation)
-        + QStringLiteral("/NelvoProgram");
+    return QStandardPaths::writableLocation(QStandardPaths::DesktopLocation) + "/NelvoProgram"_s;
 }
 
-int lineCount(const QString& fname)
+QFileDialog* dialogNamed(const char* name)
 {
-    QFile file(fname);
-    return file.open(QIODevice::ReadOnly) ? file.readAll().count('\n') : -1;
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->objectName() == QLatin1String(name)) {
+            return qobject_cast<QFileDialog*>(widget);
+        }
+    }
+    return nullptr;
 }
 
 } // namespace
 
-class TestProgramDialogs : public QObject
+class ProgramDialogsTest : public SharedStationTest
 {
     Q_OBJECT
 
+    void choose(const char* dialogName, const QString& fname)
+    {
+        QFileDialog* dialog = dialogNamed(dialogName);
+        auto* nameEdit = dialog->findChild<QLineEdit*>("fileNameEdit"_s);
+        nameEdit->setText(fname);
+        QTest::keyClick(nameEdit, Qt::Key_Return);
+        QTRY_VERIFY(!dialog->isVisible());
+    }
+
 private slots:
-    void initTestCase();
-    void cleanupTestCase() { shared.reset(); }
-    void init() { table().button("ProgClear")->click(); }
+    void init() { program().click("Clear"); }
 
-    void dialogsAreReadyAndHidden();
-    void buttonsShowTheDialogsInTheirFolder();
-    void dialogsDriveSaveAndLoad();
-    void theOperatorsFolderStays();
-    void aPressWhileADialogIsOpenRaisesIt();
-    void aNameWithoutEndingIsSavedWhereItIsFoundAgain();
-    void anOpenDialogDoesNotOutliveTheWindow();
+    void dialogsAreReadyAndHidden()
+    {
+        QFileDialog* load = dialogNamed("loadDialog");
+        QFileDialog* save = dialogNamed("saveDialog");
+        QCOMPARE(load->acceptMode(), QFileDialog::AcceptOpen);
+        QCOMPARE(save->acceptMode(), QFileDialog::AcceptSave);
+        for (QFileDialog* dialog : {load, save}) {
+            QCOMPARE(dialog->nameFilters(), QStringList("*.dat"_s));
+            QVERIFY(dialog->parent() == nullptr);
+            QVERIFY(!dialog->isModal());
+            QVERIFY(!dialog->isVisible());
+        }
+    }
 
-private:
-    ProgramWindow& table() { return *shared; }
-    void choose(const char* dialogName, const QString& fname);
-    std::unique_ptr<ProgramWindow> shared;
+    void buttonsShowTheDialogsInTheirFolder()
+    {
+        QVERIFY(QDir::isAbsolutePath(folder()));
+        QVERIFY(!QDir(folder()).exists()); // a start alone leaves the desktop as it is
+        program().click("Save");
+        program().click("Load");
+        for (const char* name : {"saveDialog", "loadDialog"}) {
+            QFileDialog* dialog = dialogNamed(name);
+            QVERIFY(dialog->isVisible());
+            QVERIFY(!dialog->isModal());
+            QCOMPARE(dialog->directory().absolutePath(), folder());
+            dialog->close();
+        }
+        QVERIFY(QDir(folder()).exists());
+        program().click("Load");
+        QVERIFY(dialogNamed("loadDialog")->isVisible()); // outlives its use
+        dialogNamed("loadDialog")->close();
+    }
+
+    void dialogsDriveSaveAndLoad()
+    {
+        program().enter(0, "33"_s, "G"_s, "2"_s);
+        const QString fname = folder() + "/picked.dat"_s;
+        program().click("Save");
+        choose("saveDialog", fname);
+        QCOMPARE(fileText(fname).count('\n'), ProgramTab::rows);
+        program().click("Clear");
+        program().click("Load");
+        choose("loadDialog", fname);
+        QCOMPARE(program().time(0)->text(), "33"_s);
+        QCOMPARE(program().group(0)->text(), "G"_s);
+    }
+
+    void theOperatorsFolderStays()
+    {
+        QVERIFY(QDir(folder()).mkpath("November"_s));
+        for (const char* name : {"saveDialog", "loadDialog"}) {
+            const char* button = qstrcmp(name, "saveDialog") == 0 ? "Save" : "Load";
+            QFileDialog* dialog = dialogNamed(name);
+            program().click(button);
+            dialog->setDirectory(folder() + "/November"_s);
+            dialog->close();
+            program().click(button);
+            QCOMPARE(dialog->directory().dirName(), "November"_s);
+            dialog->close();
+            dialog->setDirectory(folder());
+        }
+    }
+
+    void aPressWhileADialogIsOpenRaisesIt()
+    {
+        program().click("Load");
+        QFileDialog* dialog = dialogNamed("loadDialog");
+        QTRY_VERIFY(dialog->isActiveWindow());
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QTRY_VERIFY(other.isActiveWindow());
+        program().click("Load");
+        QTRY_VERIFY(dialog->isActiveWindow());
+        dialog->close();
+    }
+
+    void aNameWithoutEndingIsSavedWhereItIsFoundAgain()
+    {
+        program().click("Save");
+        choose("saveDialog", folder() + "/plain"_s);
+        QCOMPARE(fileText(folder() + "/plain.dat"_s).count('\n'), ProgramTab::rows);
+    }
+
+    void anOpenDialogDoesNotOutliveTheWindow()
+    {
+        station->window().show();
+        program().click("Load");
+        QVERIFY(dialogNamed("loadDialog")->isVisible());
+        QTimer patience;
+        patience.setSingleShot(true);
+        connect(&patience, &QTimer::timeout, qApp, [] { QCoreApplication::exit(1); });
+        patience.start(10000);
+        QTimer::singleShot(0, &station->window(), &QWidget::close);
+        QCOMPARE(QCoreApplication::exec(), 0);
+        dialogNamed("loadDialog")->close();
+    }
 };
 
-void TestProgramDialogs::initTestCase()
-{
-    shared = std::make_unique<ProgramWindow>();
-}
-
-void TestProgramDialogs::choose(const char* dialogName, const QString& fname)
-{
-    QFileDialog* dialog = table().dialog(dialogName);
-    auto* nameEdit = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    nameEdit->setText(fname);
-    QTest::keyClick(nameEdit, Qt::Key_Return);
-    QTRY_VERIFY(!dialog->isVisible());
-}
-
-void TestProgramDialogs::dialogsAreReadyAndHidden()
-{
-    QFileDialog* load = table().dialog("loadDialog");
-    QFileDialog* save = table().dialog("saveDialog");
-    QCOMPARE(load->acceptMode(), QFileDialog::AcceptOpen);
-    QCOMPARE(save->acceptMode(), QFileDialog::AcceptSave);
-    for (QFileDialog* dialog : {load, save}) {
-        QCOMPARE(dialog->nameFilters(), QStringList(QStringLiteral("*.dat")));
-        QVERIFY(dialog->parent() == nullptr);
-        QVERIFY(!dialog->isModal());
-        QVERIFY(!dialog->isVisible());
-    }
-}
-
-void TestProgramDialogs::buttonsShowTheDialogsInTheirFolder()
-{
-    QVERIFY(QDir::isAbsolutePath(folder()));
-    QVERIFY(!QDir(folder()).exists()); // a start alone leaves the desktop as it is
-    table().button("ProgSave")->click();
-    table().button("ProgLoad")->click();
-    for (const char* name : {"saveDialog", "loadDialog"}) {
-        QFileDialog* dialog = table().dialog(name);
-        QVERIFY(dialog->isVisible());
-        QVERIFY(!dialog->isModal());
-        QCOMPARE(dialog->directory().absolutePath(), folder());
-        dialog->close();
-    }
-    QVERIFY(QDir(folder()).exists());
-    table().button("ProgLoad")->click();
-    QVERIFY(table().dialog("loadDialog")->isVisible()); // outlives its use
-    table().dialog("loadDialog")->close();
-}
-
-void TestProgramDialogs::dialogsDriveSaveAndLoad()
-{
-    table().enter(0, QStringLiteral("33"), QStringLiteral("G"), QStringLiteral("2"));
-    const QString fname = folder() + QStringLiteral("/picked.dat");
-    table().button("ProgSave")->click();
-    choose("saveDialog", fname);
-    QCOMPARE(lineCount(fname), 200);
-    table().button("ProgClear")->click();
-    table().button("ProgLoad")->click();
-    choose("loadDialog", fname);
-    QCOMPARE(table().time(0)->text(), QStringLiteral("33"));
-    QCOMPARE(table().group(0)->text(), QStringLiteral("G"));
-}
-
-void TestProgramDialogs::theOperatorsFolderStays()
-{
-    QVERIFY(QDir(folder()).mkpath(QStringLiteral("November")));
-    for (const char* name : {"saveDialog", "loadDialog"}) {
-        const char* button = qstrcmp(name, "saveDialog") == 0 ? "ProgSave" : "ProgLoad";
-        QFileDialog* dialog = table().dialog(name);
-        table().button(button)->click();
-        dialog->setDirectory(folder() + QStringLiteral("/November"));
-        dialog->close();
-        table().button(button)->click();
-        QCOMPARE(dialog->directory().dirName(), QStringLiteral("November"));
-        dialog->close();
-        dialog->setDirectory(folder());
-    }
-}
-
-void TestProgramDialogs::aPressWhileADialogIsOpenRaisesIt()
-{
-    table().button("ProgLoad")->click();
-    QFileDialog* dialog = table().dialog("loadDialog");
-    QTRY_VERIFY(dialog->isActiveWindow());
-    QWidget other;
-    other.show();
-    other.activateWindow();
-    QTRY_VERIFY(other.isActiveWindow());
-    table().button("ProgLoad")->click();
-    QTRY_VERIFY(dialog->isActiveWindow());
-    dialog->close();
-}
-
-void TestProgramDialogs::aNameWithoutEndingIsSavedWhereItIsFoundAgain()
-{
-    table().button("ProgSave")->click();
-    choose("saveDialog", folder() + QStringLiteral("/plain"));
-    QCOMPARE(lineCount(folder() + QStringLiteral("/plain.dat")), 200);
-}
-
-void TestProgramDialogs::anOpenDialogDoesNotOutliveTheWindow()
-{
-    table().window().show();
-    table().button("ProgLoad")->click();
-    QVERIFY(table().dialog("loadDialog")->isVisible());
-    QTimer patience;
-    patience.setSingleShot(true);
-    connect(&patience, &QTimer::timeout, qApp, [] { QCoreApplication::exit(1); });
-    patience.start(10000);
-    QTimer::singleShot(0, &table().window(), &QWidget::close);
-    QCOMPARE(QCoreApplication::exec(), 0);
-    table().dialog("loadDialog")->close();
-}
-
-NELVO_TEST_MAIN(TestProgramDialogs)
+NELVO_TEST_MAIN(ProgramDialogsTest)
 #include "programdialogs.moc"

@@ -1,196 +1,150 @@
-#include "program/numberedtable.h"
+// Copying, cutting and pasting rows through their menus.
 
+#include "program/numberedsteps.h"
 #include "support/messagecapture.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
-#include <QScrollArea>
-
-using namespace NumberedTable;
+using namespace TestText;
 
 namespace {
 
-// A row out of sight cannot be clicked.
-bool pick(ProgramWindow& table, int row, RowEntry entry)
-{
-    table.window()
-        .findChild<QScrollArea*>(QStringLiteral("scrollArea"))
-        ->ensureWidgetVisible(table.stepLabel(row));
-    QCoreApplication::processEvents();
-    return pickFromMenu(*table.stepLabel(row), entry);
-}
+constexpr int lastRow = ProgramTab::rows - 1;
 
 } // namespace
 
-/// Copying, cutting and pasting rows through their menus.
-class TestProgramEditing : public QObject
+class ProgramEditingTest : public SharedStationTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void cleanupTestCase();
-    void init();
+    void initTestCase()
+    {
+        SharedStationTest::initTestCase();
+        program().show();
+    }
 
-    void pasteBeforeAnyCopyInsertsAnUnusedRow();
-    void copyThenPasteUpTakesTheRowsPlace();
-    void pasteDownLandsBelow();
-    void cutMovesTheRestUpAndKeepsTheLastRow();
-    void cutOfTheLastRowLeavesTheTable();
-    void pasteUpOnTheLastRowOverwritesIt();
-    void pasteDownOnTheRowBeforeTheLastOverwritesTheLast();
-    void pasteDownOnTheLastRowDoesNothing();
-    void clipHoldsOneRow();
-    void undoSaysSoAndChangesNothing();
-    void slotsWithoutARowDoNothing();
+    void init() { program().load(numberedSteps()); }
 
-private:
-    ProgramWindow& table() { return *shared; }
+    void pasteBeforeAnyCopyInsertsAnUnusedRow()
+    {
+        station->close();
+        QVERIFY(station->open());
+        program().show();
+        program().load(numberedSteps());
+        QVERIFY(program().pick(0, RowEntry::PasteUp));
+        QCOMPARE(program().step(0), ProgramStep());
+        QCOMPARE(program().step(1), numberedStep(0));
+        QCOMPARE(program().time(0)->text(), "0"_s);
+    }
 
-    // One window for all: building it is the larger part of a test. What a test leaves on the clip stays.
-    std::unique_ptr<ProgramWindow> shared;
+    void copyThenPasteUpTakesTheRowsPlace()
+    {
+        QVERIFY(program().pick(3, RowEntry::Copy));
+        QCOMPARE(program().steps(), numberedSteps());
+        QVERIFY(program().pick(10, RowEntry::PasteUp));
+        QVector<ProgramStep> expected = numberedSteps();
+        expected.insert(10, numberedStep(3));
+        expected.removeLast();
+        QCOMPARE(program().steps(), expected);
+    }
+
+    void pasteDownLandsBelow()
+    {
+        QVERIFY(program().pick(3, RowEntry::Copy));
+        QVERIFY(program().pick(10, RowEntry::PasteDown));
+        QVector<ProgramStep> expected = numberedSteps();
+        expected.insert(11, numberedStep(3));
+        expected.removeLast();
+        QCOMPARE(program().steps(), expected);
+    }
+
+    void cutMovesTheRestUpAndKeepsTheLastRow()
+    {
+        QVERIFY(program().pick(5, RowEntry::Cut));
+        QVector<ProgramStep> expected = numberedSteps();
+        expected.removeAt(5);
+        expected.append(numberedStep(lastRow));
+        QCOMPARE(program().steps(), expected);
+
+        QVERIFY(program().pick(0, RowEntry::PasteUp));
+        expected.insert(0, numberedStep(5));
+        expected.removeLast();
+        QCOMPARE(program().steps(), expected);
+    }
+
+    void cutOfTheLastRowLeavesTheTable()
+    {
+        QVERIFY(program().pick(lastRow, RowEntry::Cut));
+        QCOMPARE(program().steps(), numberedSteps());
+        QVERIFY(program().pick(0, RowEntry::PasteUp));
+        QCOMPARE(program().step(0), numberedStep(lastRow));
+    }
+
+    void pasteUpOnTheLastRowOverwritesIt()
+    {
+        QVERIFY(program().pick(3, RowEntry::Copy));
+        QVERIFY(program().pick(lastRow, RowEntry::PasteUp));
+        QVector<ProgramStep> expected = numberedSteps();
+        expected[lastRow] = numberedStep(3);
+        QCOMPARE(program().steps(), expected);
+    }
+
+    void pasteDownOnTheRowBeforeTheLastOverwritesTheLast()
+    {
+        QVERIFY(program().pick(3, RowEntry::Copy));
+        QVERIFY(program().pick(lastRow - 1, RowEntry::PasteDown));
+        QVector<ProgramStep> expected = numberedSteps();
+        expected[lastRow] = numberedStep(3);
+        QCOMPARE(program().steps(), expected);
+    }
+
+    void pasteDownOnTheLastRowDoesNothing()
+    {
+        QVERIFY(program().pick(3, RowEntry::Copy));
+        QVERIFY(program().pick(lastRow, RowEntry::PasteDown));
+        QCOMPARE(program().steps(), numberedSteps());
+    }
+
+    void clipHoldsOneRow()
+    {
+        QVERIFY(program().pick(3, RowEntry::Copy));
+        QVERIFY(program().pick(4, RowEntry::Copy));
+        QVERIFY(program().pick(0, RowEntry::PasteUp));
+        QVERIFY(program().pick(0, RowEntry::PasteUp));
+        QCOMPARE(program().step(0), numberedStep(4));
+        QCOMPARE(program().step(1), numberedStep(4));
+        QCOMPARE(program().step(2), numberedStep(0));
+    }
+
+    void undoSaysSoAndChangesNothing()
+    {
+        QVERIFY(program().pick(3, RowEntry::Cut));
+        const ProgramStep before = program().step(3);
+        {
+            MessageCapture capture;
+            QVERIFY(program().pick(3, RowEntry::Undo));
+            LoggedMessage undone;
+            for (const LoggedMessage& message : capture.messages()) {
+                undone = message.unit == "program"_s ? message : undone;
+            }
+            QCOMPARE(undone.text, "undo"_s);
+            QCOMPARE(undone.category, "default"_s);
+            QVERIFY(undone.function.contains("APUndo"_s));
+        }
+        QCOMPARE(program().step(3), before);
+    }
+
+    void slotsWithoutARowDoNothing()
+    {
+        const MessageCapture log;
+        for (const char* slot : {"APCopy", "APCut", "APPasteUp", "APPasteDown", "APUndo"}) {
+            callSlot(&station->window(), slot);
+        }
+        QCOMPARE(MessageCapture::texts(), QStringList());
+        QCOMPARE(program().steps(), numberedSteps());
+    }
 };
 
-void TestProgramEditing::initTestCase()
-{
-    shared = std::make_unique<ProgramWindow>();
-    shared->show();
-}
-
-void TestProgramEditing::cleanupTestCase()
-{
-    shared.reset();
-}
-
-void TestProgramEditing::init()
-{
-    table().button("ProgClear")->click();
-}
-
-void TestProgramEditing::pasteBeforeAnyCopyInsertsAnUnusedRow()
-{
-    fill(table());
-    QVERIFY(pick(table(), 0, RowEntry::PasteUp));
-    QCOMPARE(table().row(0), ProgramStep());
-    QCOMPARE(table().row(1), row(0));
-    QCOMPARE(table().time(0)->text(), QStringLiteral("0"));
-}
-
-void TestProgramEditing::copyThenPasteUpTakesTheRowsPlace()
-{
-    fill(table());
-    QVERIFY(pick(table(), 3, RowEntry::Copy));
-    QCOMPARE(difference(table(), rows()), -1);
-    QVERIFY(pick(table(), 10, RowEntry::PasteUp));
-    QVector<ProgramStep> expected = rows();
-    expected.insert(10, row(3));
-    expected.removeLast();
-    QCOMPARE(difference(table(), expected), -1);
-}
-
-void TestProgramEditing::pasteDownLandsBelow()
-{
-    fill(table());
-    QVERIFY(pick(table(), 3, RowEntry::Copy));
-    QVERIFY(pick(table(), 10, RowEntry::PasteDown));
-    QVector<ProgramStep> expected = rows();
-    expected.insert(11, row(3));
-    expected.removeLast();
-    QCOMPARE(difference(table(), expected), -1);
-}
-
-void TestProgramEditing::cutMovesTheRestUpAndKeepsTheLastRow()
-{
-    fill(table());
-    QVERIFY(pick(table(), 5, RowEntry::Cut));
-    QVector<ProgramStep> expected = rows();
-    expected.removeAt(5);
-    expected.append(row(lastRow));
-    QCOMPARE(difference(table(), expected), -1);
-
-    QVERIFY(pick(table(), 0, RowEntry::PasteUp));
-    expected.insert(0, row(5));
-    expected.removeLast();
-    QCOMPARE(difference(table(), expected), -1);
-}
-
-void TestProgramEditing::cutOfTheLastRowLeavesTheTable()
-{
-    fill(table());
-    QVERIFY(pick(table(), lastRow, RowEntry::Cut));
-    QCOMPARE(difference(table(), rows()), -1);
-    QVERIFY(pick(table(), 0, RowEntry::PasteUp));
-    QCOMPARE(table().row(0), row(lastRow));
-}
-
-void TestProgramEditing::pasteUpOnTheLastRowOverwritesIt()
-{
-    fill(table());
-    QVERIFY(pick(table(), 3, RowEntry::Copy));
-    QVERIFY(pick(table(), lastRow, RowEntry::PasteUp));
-    QVector<ProgramStep> expected = rows();
-    expected[lastRow] = row(3);
-    QCOMPARE(difference(table(), expected), -1);
-}
-
-void TestProgramEditing::pasteDownOnTheRowBeforeTheLastOverwritesTheLast()
-{
-    fill(table());
-    QVERIFY(pick(table(), 3, RowEntry::Copy));
-    QVERIFY(pick(table(), lastRow - 1, RowEntry::PasteDown));
-    QVector<ProgramStep> expected = rows();
-    expected[lastRow] = row(3);
-    QCOMPARE(difference(table(), expected), -1);
-}
-
-void TestProgramEditing::pasteDownOnTheLastRowDoesNothing()
-{
-    fill(table());
-    QVERIFY(pick(table(), 3, RowEntry::Copy));
-    QVERIFY(pick(table(), lastRow, RowEntry::PasteDown));
-    QCOMPARE(difference(table(), rows()), -1);
-}
-
-void TestProgramEditing::clipHoldsOneRow()
-{
-    fill(table());
-    QVERIFY(pick(table(), 3, RowEntry::Copy));
-    QVERIFY(pick(table(), 4, RowEntry::Copy));
-    QVERIFY(pick(table(), 0, RowEntry::PasteUp));
-    QVERIFY(pick(table(), 0, RowEntry::PasteUp));
-    QCOMPARE(table().row(0), row(4));
-    QCOMPARE(table().row(1), row(4));
-    QCOMPARE(table().row(2), row(0));
-}
-
-void TestProgramEditing::undoSaysSoAndChangesNothing()
-{
-    fill(table());
-    QVERIFY(pick(table(), 3, RowEntry::Cut));
-    const ProgramStep before = table().row(3);
-    {
-        MessageCapture capture;
-        QVERIFY(pick(table(), 3, RowEntry::Undo));
-        LoggedMessage undone;
-        for (const LoggedMessage& message : capture.messages()) {
-            undone = message.unit == QLatin1String("program") ? message : undone;
-        }
-        QCOMPARE(undone.text, QStringLiteral("undo"));
-        QCOMPARE(undone.category, QStringLiteral("default"));
-        QVERIFY(undone.function.contains(QLatin1String("APUndo")));
-    }
-    QCOMPARE(table().row(3), before);
-}
-
-void TestProgramEditing::slotsWithoutARowDoNothing()
-{
-    fill(table());
-    const MessageCapture log;
-    for (const char* slot : {"APCopy", "APCut", "APPasteUp", "APPasteDown", "APUndo"}) {
-        callSlot(&table().window(), slot);
-    }
-    QCOMPARE(MessageCapture::texts(), QStringList());
-    QCOMPARE(difference(table(), rows()), -1);
-}
-
-NELVO_TEST_MAIN(TestProgramEditing)
+NELVO_TEST_MAIN(ProgramEditingTest)
 #include "programediting.moc"

@@ -1,128 +1,21 @@
-#include "program/numberedtable.h"
+// The program table as it comes up, its headings, its bar and its menus.
 
+#include "program/numberedsteps.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
 #include <QSet>
 
-using namespace NumberedTable;
-
-class TestProgramTable : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void initTestCase();
-    void cleanupTestCase();
-    void init();
-    void tableHasTwoHundredUnusedRows();
-    void headersNameTheColumns();
-    void barStartsIdle();
-    void menuOpensOnTheStepOnly();
-    void clearMakesEveryRowUnused();
-    void everyRowInSightIsPaintedAfterAChange();
-
-private:
-    ProgramWindow& table() { return *shared; }
-
-    // One window for all: building it is the larger part of a test.
-    std::unique_ptr<ProgramWindow> shared;
-};
-
-void TestProgramTable::initTestCase()
-{
-    shared = std::make_unique<ProgramWindow>();
-    shared->show();
-}
-
-void TestProgramTable::cleanupTestCase()
-{
-    shared.reset();
-}
-
-void TestProgramTable::init()
-{
-    table().button("ProgClear")->click();
-}
-
-void TestProgramTable::tableHasTwoHundredUnusedRows()
-{
-    QCOMPARE(difference(table(), QVector<ProgramStep>(200)), -1);
-    QVERIFY(table().grid()->itemAtPosition(202, 0) == nullptr);
-    QCOMPARE(table().grid()->horizontalSpacing(), 3);
-    QCOMPARE(table().grid()->verticalSpacing(), 4);
-}
-
-void TestProgramTable::headersNameTheColumns()
-{
-    struct Header
-    {
-        const char* text;
-        int row;
-        int column;
-        int columns;
-        const char* colour;
-    };
-    const Header headers[] = {{"Cell Tmp. and Open/Close", 0, 1, 7, "240, 255, 240"},
-        {"Sub. Tmp.", 0, 8, 2, "255, 240, 240"}, {"Seq. Ctrl.", 0, 10, 3, "240, 250, 255"},
-        {"Step", 1, 0, 1, "240, 250, 255"}, {"Be", 1, 1, 1, "240, 255, 240"},
-        {"Ga", 1, 2, 1, "240, 255, 240"}, {"Si", 1, 3, 1, "240, 255, 240"}, {"As4", 1, 4, 1, "240, 255, 240"},
-        {"Al", 1, 5, 1, "240, 255, 240"}, {"In", 1, 6, 1, "240, 255, 240"}, {"As7", 1, 7, 1, "240, 255, 240"},
-        {"Main Ch", 1, 8, 1, "255, 240, 240"}, {"Pre Ch", 1, 9, 1, "255, 240, 240"},
-        {"Time[sec]", 1, 10, 1, "240, 250, 255"}, {"Group", 1, 11, 1, "240, 250, 255"},
-        {"Times", 1, 12, 1, "240, 250, 255"}};
-    for (const Header& header : headers) {
-        QLayoutItem* item = table().grid()->itemAtPosition(header.row, header.column);
-        auto* label = qobject_cast<QLabel*>(item->widget());
-        QCOMPARE(label->text(), QLatin1String(header.text));
-        QCOMPARE(label->styleSheet(),
-            QStringLiteral("background-color: rgb(%1);").arg(QLatin1String(header.colour)));
-        QCOMPARE(label->frameShape(), QFrame::StyledPanel);
-        QVERIFY(label->alignment() & Qt::AlignHCenter);
-        int row = 0;
-        int column = 0;
-        int rows = 0;
-        int columns = 0;
-        table().grid()->getItemPosition(table().grid()->indexOf(label), &row, &column, &rows, &columns);
-        QCOMPARE(QList<int>({row, column, rows, columns}),
-            QList<int>({header.row, header.column, 1, header.columns}));
-    }
-    QVERIFY(table().grid()->itemAtPosition(0, 0) == nullptr);
-}
-
-void TestProgramTable::barStartsIdle()
-{
-    const QString olive = QStringLiteral("background-color: rgb(185, 185, 105);");
-    QCOMPARE(table().button("ProgRun")->text(), QStringLiteral("Run"));
-    QCOMPARE(table().button("ProgRun")->styleSheet(), olive);
-    QCOMPARE(table().button("ProgPause")->text(), QStringLiteral("Pause"));
-    QCOMPARE(table().button("ProgPause")->styleSheet(), olive);
-    QCOMPARE(table().marked(), QVector<int>());
-}
-
-void TestProgramTable::menuOpensOnTheStepOnly()
-{
-    const QStringList entries{QStringLiteral("Copy"), QStringLiteral("Cut"), QStringLiteral("Paste(up)"),
-        QStringLiteral("Paste(down)"), QStringLiteral("Undo")};
-    QCOMPARE(menuOf(*table().stepLabel(0)), entries);
-    QCOMPARE(menuOf(*table().stepLabel(3)), entries);
-    QVERIFY(menuOf(*table().shutter(0, 0)) != entries);
-    QVERIFY(menuOf(*table().setPoint(0, 0)) != entries);
-    QVERIFY(menuOf(*table().time(0)) != entries);
-}
-
-void TestProgramTable::clearMakesEveryRowUnused()
-{
-    fill(table());
-    QTest::mouseClick(table().button("ProgClear"), Qt::LeftButton);
-    QCOMPARE(difference(table(), QVector<ProgramStep>(200)), -1);
-}
+using namespace TestText;
 
 namespace {
 
-class PaintCount : public QObject
+// What is painted while it lives.
+class Painted : public QObject
 {
 public:
-    QSet<QObject*> painted;
+    Painted() { QCoreApplication::instance()->installEventFilter(this); }
+    bool contains(QWidget* widget) const { return painted.contains(widget); }
 
 protected:
     bool eventFilter(QObject* receiver, QEvent* event) override
@@ -132,34 +25,121 @@ protected:
         }
         return false;
     }
+
+private:
+    QSet<QObject*> painted;
 };
 
 } // namespace
 
-void TestProgramTable::everyRowInSightIsPaintedAfterAChange()
+class ProgramTableTest : public SharedStationTest
 {
-    fill(table());
-    QCoreApplication::processEvents();
-    PaintCount count;
-    QCoreApplication::instance()->installEventFilter(&count);
-    QTest::mouseClick(table().button("ProgClear"), Qt::LeftButton);
-    QTRY_VERIFY(count.painted.contains(table().time(0)));
-    QCoreApplication::instance()->removeEventFilter(&count);
+    Q_OBJECT
 
-    int inSight = 0;
-    for (int k = 0; k < 200; ++k) {
-        const QList<QWidget*> changed{table().setPoint(k, 1), table().setPoint(k, 8),
-            table().shutter(k, k % 7), table().time(k), table().group(k), table().times(k)};
-        for (QWidget* widget : changed) {
-            QVERIFY(widget->updatesEnabled());
-            if (!widget->visibleRegion().isEmpty()) {
-                ++inSight;
-                QVERIFY2(count.painted.contains(widget), qPrintable(QString::number(k)));
+private slots:
+    void initTestCase()
+    {
+        SharedStationTest::initTestCase();
+        program().show();
+    }
+
+    void init() { program().click("Clear"); }
+
+    void tableHasTwoHundredUnusedRows()
+    {
+        QCOMPARE(program().steps(), QVector<ProgramStep>(ProgramTab::rows));
+        QVERIFY(program().grid().itemAtPosition(2 + ProgramTab::rows, 0) == nullptr);
+        QCOMPARE(program().grid().horizontalSpacing(), 3);
+        QCOMPARE(program().grid().verticalSpacing(), 4);
+    }
+
+    void headersNameTheColumns()
+    {
+        struct Header
+        {
+            const char* text;
+            int row;
+            int column;
+            int columns;
+            const char* colour;
+        };
+        const Header headers[] = {{"Cell Tmp. and Open/Close", 0, 1, 7, "240, 255, 240"},
+            {"Sub. Tmp.", 0, 8, 2, "255, 240, 240"}, {"Seq. Ctrl.", 0, 10, 3, "240, 250, 255"},
+            {"Step", 1, 0, 1, "240, 250, 255"}, {"Be", 1, 1, 1, "240, 255, 240"},
+            {"Ga", 1, 2, 1, "240, 255, 240"}, {"Si", 1, 3, 1, "240, 255, 240"},
+            {"As4", 1, 4, 1, "240, 255, 240"}, {"Al", 1, 5, 1, "240, 255, 240"},
+            {"In", 1, 6, 1, "240, 255, 240"}, {"As7", 1, 7, 1, "240, 255, 240"},
+            {"Main Ch", 1, 8, 1, "255, 240, 240"}, {"Pre Ch", 1, 9, 1, "255, 240, 240"},
+            {"Time[sec]", 1, 10, 1, "240, 250, 255"}, {"Group", 1, 11, 1, "240, 250, 255"},
+            {"Times", 1, 12, 1, "240, 250, 255"}};
+        for (const Header& header : headers) {
+            QLayoutItem* item = program().grid().itemAtPosition(header.row, header.column);
+            auto* label = qobject_cast<QLabel*>(item->widget());
+            QCOMPARE(label->text(), QLatin1String(header.text));
+            QCOMPARE(label->styleSheet(), "background-color: rgb(%1);"_s.arg(QLatin1String(header.colour)));
+            QCOMPARE(label->frameShape(), QFrame::StyledPanel);
+            QVERIFY(label->alignment() & Qt::AlignHCenter);
+            int row = 0;
+            int column = 0;
+            int rows = 0;
+            int columns = 0;
+            program().grid().getItemPosition(program().grid().indexOf(label), &row, &column, &rows, &columns);
+            QCOMPARE(QList<int>({row, column, rows, columns}),
+                QList<int>({header.row, header.column, 1, header.columns}));
+        }
+        QVERIFY(program().grid().itemAtPosition(0, 0) == nullptr);
+    }
+
+    void barStartsIdle()
+    {
+        QCOMPARE(program().button("Run").text(), "Run"_s);
+        QCOMPARE(program().button("Run").styleSheet(), olive);
+        QCOMPARE(program().button("Pause").text(), "Pause"_s);
+        QCOMPARE(program().button("Pause").styleSheet(), olive);
+        QCOMPARE(program().marked(), QVector<int>());
+    }
+
+    void menuOpensOnTheStepOnly()
+    {
+        const QStringList entries{"Copy"_s, "Cut"_s, "Paste(up)"_s, "Paste(down)"_s, "Undo"_s};
+        QCOMPARE(ProgramTab::menuOf(*program().stepLabel(0)), entries);
+        QCOMPARE(ProgramTab::menuOf(*program().stepLabel(3)), entries);
+        QVERIFY(ProgramTab::menuOf(*program().shutter(0, 0)) != entries);
+        QVERIFY(ProgramTab::menuOf(*program().setPoint(0, 0)) != entries);
+        QVERIFY(ProgramTab::menuOf(*program().time(0)) != entries);
+    }
+
+    void clearMakesEveryRowUnused()
+    {
+        program().load(numberedSteps());
+        program().click("Clear");
+        QCOMPARE(program().steps(), QVector<ProgramStep>(ProgramTab::rows));
+    }
+
+    void everyRowInSightIsPaintedAfterAChange()
+    {
+        program().load(numberedSteps());
+        QCoreApplication::processEvents();
+        const Painted painted;
+        program().click("Clear");
+        QTRY_VERIFY(painted.contains(program().time(0)));
+
+        int inSight = 0;
+        for (int k = 0; k < ProgramTab::rows; ++k) {
+            const QList<QWidget*> changed{program().setPoint(k, 1), program().setPoint(k, 8),
+                program().shutter(k, k % Channels::shutterCount), program().time(k), program().group(k),
+                program().times(k)};
+            for (QWidget* widget : changed) {
+                QVERIFY(widget->updatesEnabled());
+                if (!widget->visibleRegion().isEmpty()) {
+                    ++inSight;
+                    QVERIFY2(painted.contains(widget), qPrintable(QString::number(k)));
+                }
             }
         }
+        QVERIFY(inSight > 60);
     }
-    QVERIFY(inSight > 60);
-}
+};
 
-NELVO_TEST_MAIN(TestProgramTable)
+NELVO_TEST_MAIN(ProgramTableTest)
 #include "programtable.moc"

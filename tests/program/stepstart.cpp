@@ -1,17 +1,15 @@
 // What a step's start does to shutters and cells, and the player in real time.
 
-#include "support/station.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
 #include <QTimer>
 
 using namespace TestText;
 
-class StepStartTest : public QObject
+class StepStartTest : public OpenStationTest
 {
     Q_OBJECT
-
-    ProgramTab& program() { return station->program(); }
 
     // No channel is in use, so that no reply that nobody sends keeps the bus.
     bool openInRealTime()
@@ -22,17 +20,7 @@ class StepStartTest : public QObject
         return station->open();
     }
 
-    std::unique_ptr<Station> station;
-
 private slots:
-    void init()
-    {
-        station = std::make_unique<Station>();
-        QVERIFY(station->open());
-    }
-
-    void cleanup() { station.reset(); }
-
     void shuttersFollowEveryStep()
     {
         for (int k = 0; k < Channels::shutterCount; ++k) {

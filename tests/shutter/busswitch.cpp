@@ -1,11 +1,11 @@
 // The bytes with which the bus changes between shutters and temperatures.
 
-#include "support/station.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
 using namespace TestText;
 
-class BusSwitchTest : public QObject
+class BusSwitchTest : public QuietStationTest
 {
     Q_OBJECT
 
@@ -16,22 +16,12 @@ class BusSwitchTest : public QObject
         station->tick(3);
     }
 
-    std::unique_ptr<Station> station;
-
 private slots:
     void init()
     {
-        station = std::make_unique<Station>();
-        QVERIFY(station->open());
+        QuietStationTest::init();
         station->tick();
         QVERIFY(station->adapter.expect(Wire::toTemperatures + Wire::readRequest(0)));
-    }
-
-    void cleanup()
-    {
-        const bool isQuiet = QTest::currentTestFailed() || station->adapter.expectNothing();
-        station.reset();
-        QVERIFY(isQuiet);
     }
 
     void theFirstReadFollowsTheOpening()

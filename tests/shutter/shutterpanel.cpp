@@ -1,33 +1,18 @@
 // The shutter panel under an operator's hand, on a bus that is free.
 
 #include "support/messagecapture.h"
-#include "support/station.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
 using namespace TestText;
 
-class ShutterPanelTest : public QObject
+class ShutterPanelTest : public QuietStationTest
 {
     Q_OBJECT
 
     QString shown(const char* row) const { return station->states(row, "Open"_s, "Close"_s); }
 
-    std::unique_ptr<Station> station;
-
 private slots:
-    void init()
-    {
-        station = std::make_unique<Station>();
-        QVERIFY(station->open());
-    }
-
-    void cleanup()
-    {
-        const bool isQuiet = QTest::currentTestFailed() || station->adapter.expectNothing();
-        station.reset();
-        QVERIFY(isQuiet);
-    }
-
     void startShowsAndCommandsAllClosed()
     {
         // open() has seen the command, the last of the opening bytes.

@@ -1,7 +1,7 @@
 // A shutter command on a bus that a temperature reply keeps busy. The station's own timers run here.
 
 #include "support/messagecapture.h"
-#include "support/station.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
 using namespace TestText;
@@ -13,13 +13,12 @@ const QString sent = "Shutter Ok"_s;
 
 } // namespace
 
-class ShutterRetryTest : public QObject
+class ShutterRetryTest : public StationTest
 {
     Q_OBJECT
 
     int lines(const QString& text) const { return MessageCapture::texts().count(text); }
 
-    std::unique_ptr<Station> station;
     std::unique_ptr<MessageCapture> capture;
 
 private slots:
@@ -36,7 +35,7 @@ private slots:
     void cleanup()
     {
         capture.reset();
-        station.reset();
+        StationTest::cleanup();
     }
 
     void theBusIsNotReaddressedWhileAReplyIsPending()

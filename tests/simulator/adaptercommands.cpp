@@ -1,3 +1,5 @@
+// The adapter's own commands, those that begin with "++".
+
 #include "simulator/adapter.h"
 
 #include "support/testmain.h"

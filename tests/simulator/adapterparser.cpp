@@ -1,6 +1,9 @@
+// Lines out of the stream of bytes, with ESC before what is plain data.
+
 #include "simulator/adapterparser.h"
 
 #include "support/testmain.h"
+#include "support/wire.h"
 
 #include <QElapsedTimer>
 
@@ -30,19 +33,12 @@ Lines parse(const QByteArray& stream)
     return plain(parser.feed(stream));
 }
 
-QByteArray shutterCommand(int mask)
-{
-    return QByteArrayLiteral("\x1B") + static_cast<char>(mask) + '\n';
-}
-
-/// What a station with all channels in use sends at first, then a set point and three awkward masks.
+// What a station with all channels in use sends at first, then a set point and three awkward masks.
 QByteArray longStream()
 {
-    return QByteArrayLiteral("++eoi\n\n\n++auto 1\n++addr 3\n++eos 3\n++eoi\n") + shutterCommand(0)
-        + QByteArrayLiteral("++addr 1\n++eos 0\n++eoi 1\n\x04"
-                            "01M1\x05\n\x04"
-                            "05\x02S10120.0\x03\x7F\n++addr 3\r\n")
-        + shutterCommand('\n') + shutterCommand('\x1B') + shutterCommand('+') + shutterCommand('\r');
+    return Wire::opening + Wire::toTemperatures + Wire::readRequest(0) + Wire::setPoint(4, "0120.0")
+        + "++addr 3\r\n" + Wire::shutters('\n') + Wire::shutters('\x1B') + Wire::shutters('+')
+        + Wire::shutters('\r');
 }
 
 } // namespace
@@ -62,7 +58,7 @@ private slots:
     void everyShutterMaskArrivesAsItself()
     {
         for (int mask = 0; mask < 256; ++mask) {
-            QCOMPARE(parse(shutterCommand(mask)), Lines({{message, QByteArray(1, static_cast<char>(mask))}}));
+            QCOMPARE(parse(Wire::shutters(mask)), Lines({{message, QByteArray(1, static_cast<char>(mask))}}));
         }
     }
 
@@ -70,7 +66,7 @@ private slots:
     {
         for (int first = 0; first < 128; ++first) {
             for (int second = 0; second < 128; ++second) {
-                const Lines lines = parse(shutterCommand(first) + shutterCommand(second));
+                const Lines lines = parse(Wire::shutters(first) + Wire::shutters(second));
                 QCOMPARE(lines.size(), 2);
                 QCOMPARE(lines[0].second, QByteArray(1, static_cast<char>(first)));
                 QCOMPARE(lines[1].second, QByteArray(1, static_cast<char>(second)));

@@ -1,3 +1,5 @@
+// What a fault makes of a reply, and how often it comes.
+
 #include "simulator/faults.h"
 
 #include "support/testmain.h"

@@ -1,6 +1,10 @@
+// The command line of the simulator.
+
 #include "simulator/options.h"
 
 #include "support/testmain.h"
+
+using namespace TestText;
 
 using namespace Chamber;
 
@@ -8,7 +12,7 @@ namespace {
 
 CommandLine read(const QStringList& options)
 {
-    return readCommandLine(QStringList(QStringLiteral("chambersim")) + options, QStringLiteral("1.2.3"));
+    return readCommandLine(QStringList("chambersim"_s) + options, "1.2.3"_s);
 }
 
 QStringList words(const char* text)
@@ -33,7 +37,7 @@ private slots:
         const CommandLine commandLine = read({});
         QCOMPARE(commandLine.error, QString());
         QCOMPARE(commandLine.text, QString());
-        QCOMPARE(commandLine.options.listenAddress.toString(), QStringLiteral("127.0.0.1"));
+        QCOMPARE(commandLine.options.listenAddress.toString(), "127.0.0.1"_s);
         QCOMPARE(commandLine.options.port, quint16(1234));
         QCOMPARE(commandLine.options.seed, quint64(1));
         QCOMPARE(commandLine.options.timeScale, 1.0);
@@ -50,7 +54,7 @@ private slots:
             "--listen 127.0.0.7 --port 0 --seed 18446744073709551615 --time-scale 60.5 --latency 150:20 "
             "--fault late=0.25 --fault=wrong-length=1 --quiet --once"));
         QCOMPARE(commandLine.error, QString());
-        QCOMPARE(commandLine.options.listenAddress.toString(), QStringLiteral("127.0.0.7"));
+        QCOMPARE(commandLine.options.listenAddress.toString(), "127.0.0.7"_s);
         QCOMPARE(commandLine.options.port, quint16(0));
         QCOMPARE(commandLine.options.seed, ~quint64(0));
         QCOMPARE(commandLine.options.timeScale, 60.5);
@@ -117,7 +121,7 @@ private slots:
 
     void helpNamesEveryOptionAndEveryFault()
     {
-        const CommandLine commandLine = read({QStringLiteral("--help")});
+        const CommandLine commandLine = read({"--help"_s});
         QCOMPARE(commandLine.error, QString());
         for (const char* option : {"--listen", "--port", "--seed", "--time-scale", "--latency", "--fault",
                  "--quiet", "--once", "--help", "--version"}) {
@@ -129,10 +133,7 @@ private slots:
         }
     }
 
-    void versionIsTold()
-    {
-        QCOMPARE(read({QStringLiteral("--version")}).text, QStringLiteral("chambersim 1.2.3\n"));
-    }
+    void versionIsTold() { QCOMPARE(read({"--version"_s}).text, "chambersim 1.2.3\n"_s); }
 };
 
 NELVO_TEST_MAIN(ChamberOptionsTest)

@@ -1,6 +1,10 @@
+// The simulator at a socket: replies, clients that come and go, and the faults of a connection.
+
 #include "simulator/chamberserver.h"
 
+#include "base/channels.h"
 #include "support/testmain.h"
+#include "support/wire.h"
 
 #include <QElapsedTimer>
 #include <QTcpSocket>
@@ -9,16 +13,9 @@ using namespace Chamber;
 
 namespace {
 
-const QByteArray toTemperatures = QByteArrayLiteral("++auto 1\n++addr 1\n++eos 0\n++eoi 1\n");
+const QByteArray toTemperatures = "++auto 1\n" + Wire::toTemperatures;
 
-QByteArray readRequest(int unit)
-{
-    return QByteArrayLiteral("\x04"
-                             "0")
-        + QByteArray::number(unit) + QByteArrayLiteral("M1\x05\n");
-}
-
-/// A chamber with one kind of fault, on a free port.
+// A chamber with one kind of fault, on a free port.
 class RunningChamber
 {
 public:
@@ -47,7 +44,7 @@ private:
     }
 };
 
-/// A client in the same thread.
+// A client in the same thread.
 class Client
 {
 public:
@@ -123,13 +120,13 @@ private slots:
         Client client(chamber);
         QByteArray stream = toTemperatures;
         for (int i = 0; i < 90000; ++i) {
-            stream += readRequest(1 + i % 9);
+            stream += Wire::readRequest(i % Channels::count);
         }
         client.socket.write(stream);
         QVERIFY(client.gets(90000));
         QCOMPARE(client.received.size(), 90000 * 13);
         for (int i = 0; i < 90000; ++i) {
-            QCOMPARE(client.received.at(i * 13 + 1), static_cast<char>('1' + i % 9));
+            QCOMPARE(client.received.at(i * 13 + 1), Channels::unitDigit(i % Channels::count));
         }
     }
 
@@ -208,7 +205,7 @@ private slots:
         RunningChamber chamber(FaultKind::Lost, 0.0, 80);
         Client client(chamber);
         for (const QByteArray& request :
-            {QByteArray("++eos\n"), toTemperatures + readRequest(1), readRequest(2)}) {
+            {QByteArray("++eos\n"), toTemperatures + Wire::readRequest(0), Wire::readRequest(1)}) {
             const int before = client.received.count('\n');
             QElapsedTimer timer;
             timer.start();
@@ -225,7 +222,7 @@ private slots:
         QList<int> portions;
         connect(
             &client.socket, &QTcpSocket::readyRead, this, [&] { portions.append(client.received.size()); });
-        client.socket.write(toTemperatures + readRequest(1));
+        client.socket.write(toTemperatures + Wire::readRequest(0));
         QVERIFY(client.gets(2));
         QCOMPARE(portions, QList<int>({13, 26}));
     }
@@ -236,7 +233,7 @@ private slots:
         Client client(chamber);
         QElapsedTimer timer;
         timer.start();
-        client.socket.write(toTemperatures + readRequest(1) + "++eos\n");
+        client.socket.write(toTemperatures + Wire::readRequest(0) + "++eos\n");
         QVERIFY(client.gets(2));
         QVERIFY(timer.elapsed() >= 190);
         QVERIFY(client.received.startsWith("01M"));
@@ -248,7 +245,7 @@ private slots:
     {
         RunningChamber chamber(FaultKind::Merged, 1.0);
         Client client(chamber);
-        client.socket.write(toTemperatures + readRequest(1));
+        client.socket.write(toTemperatures + Wire::readRequest(0));
         QTRY_VERIFY(chamber.events.contains("fault merged 01"));
         QCOMPARE(client.received, QByteArray());
         client.socket.write("++eos\n");
@@ -260,7 +257,7 @@ private slots:
     {
         RunningChamber chamber(FaultKind::Cut, 1.0);
         Client client(chamber);
-        client.socket.write(toTemperatures + readRequest(4) + readRequest(5));
+        client.socket.write(toTemperatures + Wire::readRequest(3) + Wire::readRequest(4));
         QTRY_COMPARE(client.socket.state(), QAbstractSocket::UnconnectedState);
         QCOMPARE(client.received, QByteArray());
         QCOMPARE(chamber.events.mid(1), QList<QByteArray>({"connected", "fault cut 04", "disconnected"}));
@@ -274,7 +271,8 @@ private slots:
         RunningChamber chamber(FaultKind::HalfOpen, 1.0);
         {
             Client client(chamber);
-            client.socket.write(toTemperatures + readRequest(4) + "++addr 3\n++eos 3\n\x1B\x09\n++eos\n");
+            client.socket.write(
+                toTemperatures + Wire::readRequest(3) + "++addr 3\n++eos 3\n\x1B\x09\n++eos\n");
             QTRY_VERIFY(chamber.events.contains("fault half-open 04"));
             client.socket.write("++eos\n");
             QTRY_COMPARE(client.socket.bytesToWrite(), 0);

@@ -1,33 +1,24 @@
+// What a temperature controller understands.
+
 #include "simulator/controllerprotocol.h"
 
 #include "support/testmain.h"
+#include "support/wire.h"
 #include "temperature/controllermessage.h"
 
 using namespace Chamber::ControllerProtocol;
 
 namespace {
 
-/// EOT unit STX "S1" value ETX, without a check.
+// EOT unit STX "S1" value ETX, without a check.
 QByteArray opened(int unit, const QByteArray& value)
 {
-    return QByteArrayLiteral("\x04"
-                             "0")
-        + QByteArray::number(unit) + QByteArrayLiteral("\x02S1") + value + '\x03';
-}
-
-char checkOf(const QByteArray& bytes)
-{
-    char check = 0;
-    for (const char byte : bytes) {
-        check = static_cast<char>(check ^ byte);
-    }
-    return check;
+    return Wire::setPoint(unit - 1, value).chopped(2);
 }
 
 QByteArray setPointMessage(int unit, const QByteArray& value)
 {
-    const QByteArray bytes = opened(unit, value);
-    return bytes + checkOf(bytes) + "\r\n";
+    return Wire::setPoint(unit - 1, value).chopped(1) + "\r\n";
 }
 
 QByteArray reasonOf(const QByteArray& message)
@@ -87,7 +78,7 @@ private slots:
         const QByteArray bytes = opened(1, "0120.0");
         for (int check = 0; check < 256; ++check) {
             const Request request = parse(bytes + static_cast<char>(check) + "\r\n");
-            const bool right = static_cast<char>(check) == checkOf(bytes);
+            const bool right = static_cast<char>(check) == setPointMessage(1, "0120.0").at(bytes.size());
             QCOMPARE(request.kind, right ? Request::Kind::SetPoint : Request::Kind::Wrong);
         }
     }
@@ -95,7 +86,7 @@ private slots:
     void aMissingCheckIsTakenExactlyWhenItIsZero()
     {
         const QByteArray zero = opened(1, "1e2");
-        QCOMPARE(checkOf(zero), '\0');
+        QCOMPARE(setPointMessage(1, "1e2").at(zero.size()), '\0');
         QVERIFY(checkHolds(zero, zero.size() - 1));
         QVERIFY(checkHolds(zero + '\0', zero.size() - 1));
         QVERIFY(!checkHolds(zero + 'x', zero.size() - 1));

@@ -1,6 +1,10 @@
+// The adapter with all instruments behind it, byte in, byte and event out.
+
 #include "simulator/rack.h"
 
+#include "base/channels.h"
 #include "support/testmain.h"
+#include "support/wire.h"
 
 using Chamber::AdapterLine;
 using Chamber::AdapterParser;
@@ -8,7 +12,7 @@ using Chamber::Rack;
 
 namespace {
 
-/// A rack and all that came of what it was sent.
+// A rack and all that came of what it was sent.
 class Bench
 {
 public:
@@ -47,17 +51,14 @@ private:
     AdapterParser parser;
 };
 
-const QByteArray toTemperatures = QByteArrayLiteral("++auto 1\n++addr 1\n++eos 0\n++eoi 1\n");
-const QByteArray toShutters = QByteArrayLiteral("++addr 3\n++eos 3\n++eoi 0\n");
-const QByteArray readUnit1 = QByteArrayLiteral("\x04"
-                                               "01M1\x05\n");
-const QByteArray setUnit5To120 = QByteArrayLiteral("\x04"
-                                                   "05\x02S10120.0\x03\x7F\n");
+const QByteArray toTemperatures = "++auto 1\n" + Wire::toTemperatures;
+const QByteArray readUnit1 = Wire::readRequest(0);
+const QByteArray setUnit5To120 = Wire::setPoint(4, "0120.0");
 
 QByteArray letters(int mask)
 {
     QByteArray text;
-    for (int shutter = 0; shutter < 7; ++shutter) {
+    for (int shutter = 0; shutter < Channels::shutterCount; ++shutter) {
         text += (mask & (1 << shutter)) != 0 ? 'o' : 'x';
     }
     return text;
@@ -90,7 +91,7 @@ private slots:
     void everyMaskMovesTheShutters()
     {
         Bench bench;
-        bench.send(toShutters);
+        bench.send(Wire::toShutters);
         for (int mask = 0; mask < 128; ++mask) {
             bench.clear();
             bench.send(QByteArrayLiteral("\x1B") + static_cast<char>(mask) + '\n');
@@ -103,7 +104,7 @@ private slots:
     void bit7MovesNothing()
     {
         Bench bench;
-        bench.send(toShutters + "\x1B\x09\n\x1B\x80\n\x1B\xFF\n");
+        bench.send(Wire::toShutters + "\x1B\x09\n\x1B\x80\n\x1B\xFF\n");
         QCOMPARE(bench.events,
             QList<QByteArray>(
                 {"shutters oxxoxxx", "rejected shutters bit 7 is set", "rejected shutters bit 7 is set"}));
@@ -114,7 +115,7 @@ private slots:
     {
         Bench bench;
         for (const char* eos : {"0", "1", "2"}) {
-            bench.send(toShutters + "++eos " + eos + "\n\x1B\x7F\n");
+            bench.send(Wire::toShutters + "++eos " + eos + "\n\x1B\x7F\n");
         }
         QCOMPARE(bench.events,
             QList<QByteArray>({"rejected shutters 3 bytes instead of 1",
@@ -125,14 +126,14 @@ private slots:
     void theShuttersTakeAMaskWithAndWithoutEoi()
     {
         Bench bench;
-        bench.send(toShutters + "\x1B\x01\n++eoi 1\n\x1B\x02\n");
+        bench.send(Wire::toShutters + "\x1B\x01\n++eoi 1\n\x1B\x02\n");
         QCOMPARE(bench.events, QList<QByteArray>({"shutters oxxxxxx", "shutters xoxxxxx"}));
     }
 
     void aTemperatureMessageAtTheWrongAddressIsSeen()
     {
         Bench bench;
-        bench.send(toShutters + readUnit1);
+        bench.send(Wire::toShutters + readUnit1);
         QCOMPARE(bench.events, QList<QByteArray>({"rejected shutters 6 bytes instead of 1"}));
         bench.clear();
         bench.send("++addr 7\n" + readUnit1);
@@ -205,7 +206,7 @@ private slots:
     void aNewClientFindsAFreshAdapterAndTheSameInstruments()
     {
         Bench bench;
-        bench.send(toTemperatures + setUnit5To120 + toShutters + "\x1B\x05\n");
+        bench.send(toTemperatures + setUnit5To120 + Wire::toShutters + "\x1B\x05\n");
         bench.clear();
         bench.rack.resetAdapter();
         bench.send("++addr\n++eos\n++eoi\n++auto\n");

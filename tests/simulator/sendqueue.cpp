@@ -1,3 +1,5 @@
+// Replies on their way: in order, and in time.
+
 #include "simulator/sendqueue.h"
 
 #include "support/testmain.h"

@@ -1,3 +1,5 @@
+// A cell that follows its set point with a lag.
+
 #include "simulator/thermalmodel.h"
 
 #include "support/testmain.h"

@@ -1,31 +1,27 @@
 #pragma once
 
+#include "support/eventcount.h"
+
 #include <QCoreApplication>
-#include <QEvent>
-#include <QWidget>
 
 #include <utility>
 
 /// Counts the repaints of a widget that is shown.
-class PaintCount : public QObject
+class PaintCount
 {
 public:
-    explicit PaintCount(QWidget& widget) { widget.installEventFilter(this); }
+    explicit PaintCount(QWidget& widget)
+        : paints(widget, QEvent::Paint)
+    {
+    }
 
     /// The repaints since the last call; requests that wait are carried out first.
     int take()
     {
         QCoreApplication::processEvents();
-        return std::exchange(count, 0);
-    }
-
-protected:
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
+        return std::exchange(paints.count, 0);
     }
 
 private:
-    int count = 0;
+    EventCount paints;
 };

@@ -52,23 +52,25 @@ void callWithFile(QObject& window, const char* slot, const QString& fname)
 
 ProgramTab::ProgramTab(QMainWindow& window)
     : main(window)
+    , widgets(window)
     , cells(rows, QVector<QWidget*>(ProgramColumns, nullptr))
 {
-    for (int i = 0; i < grid().count(); ++i) {
+    const QGridLayout& table = grid();
+    for (int i = 0; i < table.count(); ++i) {
         int row = 0;
         int column = 0;
         int rowSpan = 0;
         int columnSpan = 0;
-        grid().getItemPosition(i, &row, &column, &rowSpan, &columnSpan);
+        table.getItemPosition(i, &row, &column, &rowSpan, &columnSpan);
         if (row >= headerRows) {
-            cells[row - headerRows][column] = grid().itemAt(i)->widget();
+            cells[row - headerRows][column] = table.itemAt(i)->widget();
         }
     }
 }
 
 void ProgramTab::show()
 {
-    main.findChild<QTabWidget*>("tabWidget"_s)->setCurrentIndex(0);
+    widgets.find<QTabWidget>("tabWidget"_s).setCurrentIndex(0);
     main.show();
     if (!QTest::qWaitForWindowExposed(&main)) {
         qFatal("the window is not shown");
@@ -105,6 +107,9 @@ ProgramStep ProgramTab::step(int row) const
             qFatal("shutter %d of row %d shows two things", number, row);
         }
         step.shutters[static_cast<size_t>(number)] = isOpen;
+    }
+    if (stepLabel(row)->text() != QString::number(row + 1)) {
+        qFatal("row %d says it is step %s", row, qPrintable(stepLabel(row)->text()));
     }
     step.timeSec = time(row)->text().toDouble();
     step.group = group(row)->text();
@@ -156,7 +161,7 @@ void ProgramTab::saveFile(const QString& fname)
 bool ProgramTab::pick(int row, RowEntry entry)
 {
     // A row out of sight cannot be clicked.
-    main.findChild<QScrollArea*>("scrollArea"_s)->ensureWidgetVisible(stepLabel(row));
+    widgets.find<QScrollArea>("scrollArea"_s).ensureWidgetVisible(stepLabel(row));
     QCoreApplication::processEvents();
     return rightClick(*stepLabel(row), [entry](QMenu& menu) {
         QAction* action = menu.actions().at(static_cast<int>(entry));
@@ -178,27 +183,27 @@ QStringList ProgramTab::menuOf(QWidget& widget)
 
 void ProgramTab::click(const char* name)
 {
-    QTest::mouseClick(button(name), Qt::LeftButton);
+    QTest::mouseClick(&button(name), Qt::LeftButton);
 }
 
-QToolButton* ProgramTab::button(const char* name) const
+QToolButton& ProgramTab::button(const char* name) const
 {
-    return main.findChild<QToolButton*>("Prog"_s + QLatin1String(name));
+    return widgets.find<QToolButton>("Prog"_s + QLatin1String(name));
 }
 
 QString ProgramTab::label(const char* name) const
 {
-    return main.findChild<QLabel*>(QLatin1String(name))->text();
+    return widgets.find<QLabel>(QLatin1String(name)).text();
 }
 
 bool ProgramTab::isRunning() const
 {
-    return button("Run")->text() == "Stop"_s;
+    return button("Run").text() == "Stop"_s;
 }
 
 bool ProgramTab::isWaiting() const
 {
-    return button("Pause")->text() == "Resume"_s;
+    return button("Pause").text() == "Resume"_s;
 }
 
 QVector<int> ProgramTab::marked() const

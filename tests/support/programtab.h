@@ -2,6 +2,8 @@
 
 #include "program/programstep.h"
 
+#include "support/namedwidgets.h"
+
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -35,7 +37,8 @@ public:
     QLineEdit* group(int row) const { return qobject_cast<QLineEdit*>(at(row, GroupColumn)); }
     QLineEdit* times(int row) const { return qobject_cast<QLineEdit*>(at(row, TimesColumn)); }
 
-    /// The row as it is shown; a shutter button whose colour and text disagree is a fatal error.
+    /// The row as it is shown. A shutter button whose colour and text disagree, or another row's number, is a
+    /// fatal error.
     ProgramStep step(int row) const;
     QVector<ProgramStep> steps() const;
     /// Fills a row's last three columns; its set points and shutters stay.
@@ -54,7 +57,7 @@ public:
 
     /// Clicks a button of the bar: "Run", "Pause", "Clear", "Check", "Load" or "Save".
     void click(const char* name);
-    QToolButton* button(const char* name) const;
+    QToolButton& button(const char* name) const;
     /// The text of a label of the bar: "DispTime01" and its like.
     QString label(const char* name) const;
 
@@ -70,5 +73,6 @@ public:
 
 private:
     QMainWindow& main;
+    NamedWidgets widgets;
     QVector<QVector<QWidget*>> cells; // by row and column
 };

@@ -58,12 +58,14 @@ void Station::storeInUse(const QList<int>& channels)
 bool Station::open()
 {
     main = std::make_unique<MBEMain>();
+    widgets = std::make_unique<NamedWidgets>(*main);
     return adapter.expect(Wire::opening);
 }
 
 void Station::close()
 {
     tab.reset();
+    widgets.reset();
     main.reset();
 }
 
@@ -80,21 +82,26 @@ QString Station::statusBar() const
     return main->statusBar()->currentMessage();
 }
 
+QChar Station::state(const QString& name, const QString& on, const QString& off) const
+{
+    if (text(name) == on && style(name) == yellow) {
+        return u'o';
+    }
+    return text(name) == off && style(name) == olive ? u'x' : u'?';
+}
+
 QString Station::states(const char* row, const QString& on, const QString& off) const
 {
     QString letters;
     for (int number = 0; main->findChild<QWidget*>(cell(row, number)) != nullptr; ++number) {
-        const QString name = cell(row, number);
-        const bool isOn = text(name) == on && style(name) == yellow;
-        const bool isOff = text(name) == off && style(name) == olive;
-        letters += QChar(isOn ? u'o' : isOff ? u'x' : u'?');
+        letters += state(cell(row, number), on, off);
     }
     return letters;
 }
 
 bool Station::isRamping(int channel) const
 {
-    return states("RunT", "Stop"_s, "Run"_s).at(channel) == u'o';
+    return state(cell("RunT", channel), "Stop"_s, "Run"_s) == u'o';
 }
 
 void Station::click(const QString& name) const

@@ -2,6 +2,7 @@
 
 #include "app/mbemain.h"
 #include "support/messagecapture.h"
+#include "support/namedwidgets.h"
 #include "support/panel.h"
 #include "support/programtab.h"
 #include "support/scriptedadapter.h"
@@ -45,15 +46,8 @@ public:
     MBEMain& window() const { return *main; }
     ProgramTab& program();
 
-    /// The only widget of that name and class; a fatal error when there is none.
-    template <class Widget> Widget& find(const QString& name) const
-    {
-        auto* found = main->findChild<Widget*>(name);
-        if (found == nullptr) {
-            qFatal("no %s %s", Widget::staticMetaObject.className(), qPrintable(name));
-        }
-        return *found;
-    }
+    /// The widget of that name; a fatal error when there is none of that class.
+    template <class Widget> Widget& find(const QString& name) const { return widgets->find<Widget>(name); }
     QWidget& widget(const QString& name) const { return find<QWidget>(name); }
     QString text(const QString& name) const { return widget(name).property("text").toString(); }
     QString style(const QString& name) const { return widget(name).styleSheet(); }
@@ -99,6 +93,7 @@ public:
     QList<int> reads; ///< the channels read, in the order of arrival
 
 private:
+    QChar state(const QString& name, const QString& on, const QString& off) const;
     bool answer();
 
     QuietPlatform quiet;
@@ -107,5 +102,6 @@ private:
     std::unique_ptr<HeldTicks> held;
     std::unique_ptr<DrivenClock> clock;
     std::unique_ptr<MBEMain> main;
+    std::unique_ptr<NamedWidgets> widgets;
     std::unique_ptr<ProgramTab> tab;
 };

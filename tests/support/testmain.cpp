@@ -13,7 +13,8 @@ int runIsolated(int argc, char* argv[], const std::function<int()>& run)
     // A window that a test builds without thinking of it must not reach the address this build is made for.
     qputenv("NELVO_ADAPTER", "127.0.0.3");
     QStandardPaths::setTestModeEnabled(true);
-    // The desktop, where the station makes its folder of programs, is not among the places that test mode moves.
+    // The desktop, where the station makes its folder of programs, is not among the places that test mode
+    // moves.
     QTemporaryDir home;
     qputenv("HOME", home.path().toLocal8Bit());
     QApplication::setStyle(QStringLiteral("Fusion"));

@@ -41,11 +41,13 @@ DrivenClock::DrivenClock(qint64 nowMs)
 {
     drivenNowMs = nowMs;
     WallClock::source = &readDriven;
+    WallClock::systemSource = &readDriven;
 }
 
 DrivenClock::~DrivenClock()
 {
     WallClock::source = &WallClock::carriedOnMs;
+    WallClock::systemSource = &WallClock::steppingMs;
 }
 
 void DrivenClock::advance(qint64 ms)

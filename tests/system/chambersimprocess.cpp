@@ -1,3 +1,5 @@
+// The program chambersim itself, over the real socket.
+
 #include "support/testmain.h"
 
 #include <QHostAddress>
@@ -6,11 +8,13 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 
+using namespace TestText;
+
 namespace {
 
 constexpr int patienceMs = 10000;
 
-/// The real program, started on a free port unless the options say otherwise.
+// The real program, started on a free port unless the options say otherwise.
 class Chambersim
 {
 public:
@@ -41,7 +45,7 @@ public:
             }
         }
         const QString line = QString::fromUtf8(process.readLine());
-        static const QRegularExpression form(QStringLiteral("^(\\d+\\.\\d{3}) ([^\\n]+)\\n$"));
+        static const QRegularExpression form("^(\\d+\\.\\d{3}) ([^\\n]+)\\n$"_s);
         const QRegularExpressionMatch match = form.match(line);
         const double seconds = match.captured(1).toDouble();
         if (!match.hasMatch() || seconds < lastSeconds) {
@@ -62,7 +66,7 @@ private:
 
 QStringList freePort(const QStringList& more = {})
 {
-    return QStringList({QStringLiteral("--port"), QStringLiteral("0")}) + more;
+    return QStringList({"--port"_s, "0"_s}) + more;
 }
 
 void connectTo(QTcpSocket& socket, quint16 port)
@@ -129,7 +133,7 @@ private slots:
 
     void theTimeScaleSpeedsTheCellsUp()
     {
-        Chambersim chambersim(freePort({QStringLiteral("--time-scale"), QStringLiteral("1e9")}));
+        Chambersim chambersim(freePort({"--time-scale"_s, "1e9"_s}));
         QTcpSocket socket;
         connectTo(socket, chambersim.port());
         socket.write("++auto 1\n++addr 1\n\x04"
@@ -180,7 +184,7 @@ private slots:
 
     void onceEndsItWhenTheClientLeaves()
     {
-        Chambersim chambersim(freePort({QStringLiteral("--once")}));
+        Chambersim chambersim(freePort({"--once"_s}));
         QTcpSocket socket;
         connectTo(socket, chambersim.port());
         QCOMPARE(chambersim.event(), QByteArray("connected"));
@@ -193,7 +197,7 @@ private slots:
 
     void quietTellsOnlyWhereItListens()
     {
-        Chambersim chambersim(freePort({QStringLiteral("--quiet"), QStringLiteral("--once")}));
+        Chambersim chambersim(freePort({"--quiet"_s, "--once"_s}));
         QTcpSocket socket;
         connectTo(socket, chambersim.port());
         socket.write("++frob\n++eos\n");
@@ -205,7 +209,7 @@ private slots:
 
     void faultsAreLoggedAndHappen()
     {
-        Chambersim chambersim(freePort({QStringLiteral("--fault"), QStringLiteral("er=1")}));
+        Chambersim chambersim(freePort({"--fault"_s, "er=1"_s}));
         QTcpSocket socket;
         connectTo(socket, chambersim.port());
         QCOMPARE(chambersim.event(), QByteArray("connected"));
@@ -217,8 +221,7 @@ private slots:
 
     void aBadOptionIsOneLineAndStatus2()
     {
-        for (const QStringList& options : {QStringList(QStringLiteral("--frob")),
-                 QStringList({QStringLiteral("--fault"), QStringLiteral("late=2")})}) {
+        for (const QStringList& options : {QStringList("--frob"_s), QStringList({"--fault"_s, "late=2"_s})}) {
             Chambersim chambersim(options);
             QVERIFY(chambersim.ends());
             QCOMPARE(chambersim.process.exitCode(), 2);
@@ -233,7 +236,7 @@ private slots:
     {
         QTcpServer other;
         QVERIFY(other.listen(QHostAddress(QHostAddress::LocalHost)));
-        Chambersim chambersim({QStringLiteral("--port"), QString::number(other.serverPort())});
+        Chambersim chambersim({"--port"_s, QString::number(other.serverPort())});
         QVERIFY(chambersim.ends());
         QCOMPARE(chambersim.process.exitCode(), 1);
         const QByteArray complaint = chambersim.process.readAllStandardError();

@@ -1,25 +1,20 @@
 // The cell panel at start, and which channels are in use.
 
 #include "support/files.h"
-#include "support/station.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
 #include <QDir>
 
 using namespace TestText;
 
-class CellPanelTest : public QObject
+class CellPanelTest : public StationTest
 {
     Q_OBJECT
 
     QString inUse() const { return station->states("TCActive", "Active"_s, "NotInUse"_s); }
 
-    std::unique_ptr<Station> station;
-
 private slots:
-    void init() { station = std::make_unique<Station>(); }
-    void cleanup() { station.reset(); }
-
     void startShowsAllInUseAndIdle()
     {
         QVERIFY(station->open());

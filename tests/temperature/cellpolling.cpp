@@ -1,23 +1,18 @@
 // Polling as the operator sees it: nine temperatures, read one after the other.
 
-#include "support/station.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
 using namespace TestText;
 
-class CellPollingTest : public QObject
+class CellPollingTest : public StationTest
 {
     Q_OBJECT
 
     QString measured(int channel) const { return station->text(cell("CDeg", channel)); }
     QString elapsed(int channel) const { return station->text(cell("ETime", channel)); }
 
-    std::unique_ptr<Station> station;
-
 private slots:
-    void init() { station = std::make_unique<Station>(); }
-    void cleanup() { station.reset(); }
-
     void channelsAreReadInOrder()
     {
         QVERIFY(station->open());

@@ -1,6 +1,6 @@
 // Ramps of many minutes on a driven clock: what the controllers get, and when.
 
-#include "support/station.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
 using namespace TestText;
@@ -18,7 +18,7 @@ QList<QByteArray> messages(int channel, const QByteArrayList& values)
 
 } // namespace
 
-class CellRampTest : public QObject
+class CellRampTest : public StationTest
 {
     Q_OBJECT
 
@@ -47,12 +47,7 @@ class CellRampTest : public QObject
         return true;
     }
 
-    std::unique_ptr<Station> station;
-
 private slots:
-    void init() { station = std::make_unique<Station>(); }
-    void cleanup() { station.reset(); }
-
     void aRisingRampMinuteByMinute()
     {
         QVERIFY(start(0, 100.0, "200"_s, "5"_s));

@@ -2,7 +2,7 @@
 // leaves: read, await reply, reply ready, ramp step, next channel.
 
 #include "support/messagecapture.h"
-#include "support/station.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
 using namespace TestText;
@@ -13,7 +13,7 @@ const QString unknown = "----.-"_s;
 
 } // namespace
 
-class PollingStatesTest : public QObject
+class PollingStatesTest : public OpenStationTest
 {
     Q_OBJECT
 
@@ -26,19 +26,14 @@ class PollingStatesTest : public QObject
         return station->adapter.expect(Wire::readRequest(channel));
     }
 
-    std::unique_ptr<Station> station;
-
 private slots:
     // Every test begins with the read of channel 0 on the wire.
     void init()
     {
-        station = std::make_unique<Station>();
-        QVERIFY(station->open());
+        OpenStationTest::init();
         station->tick();
         QVERIFY(station->adapter.expect(Wire::toTemperatures + Wire::readRequest(0)));
     }
-
-    void cleanup() { station.reset(); }
 
     void readWaitsWhileAReplyIsPending()
     {

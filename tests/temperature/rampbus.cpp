@@ -1,6 +1,6 @@
 // Ramp steps on a bus that a reply keeps busy, tick by tick.
 
-#include "support/station.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
 using namespace TestText;
@@ -11,7 +11,7 @@ const QByteArray first = "0120.0";
 
 } // namespace
 
-class RampBusTest : public QObject
+class RampBusTest : public StationTest
 {
     Q_OBJECT
 
@@ -22,13 +22,11 @@ class RampBusTest : public QObject
         return station->adapter.expect(Wire::setPoint(0, first));
     }
 
-    std::unique_ptr<Station> station;
-
 private slots:
     // Two ramps are running and their cells are out of use: nothing is on the bus but set points.
     void init()
     {
-        station = std::make_unique<Station>();
+        StationTest::init();
         Station::storeInUse({0, 1});
         station->answers[0] = Wire::reading(100.0);
         station->answers[1] = Wire::reading(100.0);
@@ -40,8 +38,6 @@ private slots:
         }
         DrivenClock::advance(1);
     }
-
-    void cleanup() { station.reset(); }
 
     void aStepWaitsForTheBusAndGoesOutWithTheReply()
     {

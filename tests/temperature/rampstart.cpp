@@ -1,7 +1,7 @@
 // What starts a ramp, what refuses it, and what the operator is told.
 
 #include "app/mbemain.h"
-#include "support/station.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 
 #include <QElapsedTimer>
@@ -19,7 +19,7 @@ QString notCorrect(const char* minutes, const char* channel)
 
 } // namespace
 
-class RampStartTest : public QObject
+class RampStartTest : public StationTest
 {
     Q_OBJECT
 
@@ -31,12 +31,7 @@ class RampStartTest : public QObject
         return station->open() && station->round();
     }
 
-    std::unique_ptr<Station> station;
-
 private slots:
-    void init() { station = std::make_unique<Station>(); }
-    void cleanup() { station.reset(); }
-
     void aDurationThatIsNoneIsRefused_data()
     {
         QTest::addColumn<int>("channel");
@@ -69,12 +64,12 @@ private slots:
     {
         QTest::addColumn<QString>("target");
         QTest::addColumn<QString>("duration");
-        QTest::newRow("60 a minute") << "700"_s
-                                     << "10"_s;
-        QTest::newRow("50.1 a minute") << "150.1"_s
-                                       << "1"_s;
-        QTest::newRow("a short time") << "101"_s
-                                      << "0.01"_s;
+        const auto row = [](const char* name, const QString& target, const QString& duration) {
+            QTest::newRow(name) << target << duration;
+        };
+        row("60 a minute", "700"_s, "10"_s);
+        row("50.1 a minute", "150.1"_s, "1"_s);
+        row("a short time", "101"_s, "0.01"_s);
     }
 
     void aRiseTooFastIsRefused()
@@ -104,26 +99,21 @@ private slots:
 
     void rampsAtTheLimitAndFallsOfAnySpeedStart_data()
     {
-        QTest::addColumn<double>("current");
         QTest::addColumn<QString>("target");
+        QTest::addColumn<double>("current");
         QTest::addColumn<QString>("duration");
         QTest::addColumn<QByteArray>("firstSetPoint");
-        QTest::newRow("at the limit") << 100.0 << "700"_s
-                                      << "12"_s << QByteArray("0150.0");
-        QTest::newRow("a fast fall") << 700.0 << "100"_s
-                                     << "1"_s << QByteArray("0100.0");
-        QTest::newRow("a faster fall") << 700.0 << "100"_s
-                                       << "0.1"_s << QByteArray("0100.0");
-        QTest::newRow("blanks around") << 100.0 << " 200 "_s
-                                       << " 5 "_s << QByteArray("0120.0");
-        QTest::newRow("an exponent") << 100.0 << "2e2"_s
-                                     << "5"_s << QByteArray("0120.0");
+        QTest::newRow("at the limit") << "700"_s << 100.0 << "12"_s << QByteArray("0150.0");
+        QTest::newRow("a fast fall") << "100"_s << 700.0 << "1"_s << QByteArray("0100.0");
+        QTest::newRow("a faster fall") << "100"_s << 700.0 << "0.1"_s << QByteArray("0100.0");
+        QTest::newRow("blanks around") << " 200 "_s << 100.0 << " 5 "_s << QByteArray("0120.0");
+        QTest::newRow("an exponent") << "2e2"_s << 100.0 << "5"_s << QByteArray("0120.0");
     }
 
     void rampsAtTheLimitAndFallsOfAnySpeedStart()
     {
-        QFETCH(double, current);
         QFETCH(QString, target);
+        QFETCH(double, current);
         QFETCH(QString, duration);
         QFETCH(QByteArray, firstSetPoint);
         QVERIFY(openAt(0, Wire::reading(current)));

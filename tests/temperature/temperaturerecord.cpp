@@ -3,7 +3,7 @@
 #include "chart/tshowview.h"
 #include "support/files.h"
 #include "support/messagecapture.h"
-#include "support/station.h"
+#include "support/stationtest.h"
 #include "support/testmain.h"
 #include "temperature/recordline.h"
 
@@ -17,17 +17,14 @@ namespace {
 const QByteArray atZero = "0\t500\t470\t440\t410\t380\t350\t320\t290\t260\n";
 } // namespace
 
-class TemperatureRecordTest : public QObject
+class TemperatureRecordTest : public StationTest
 {
     Q_OBJECT
 
-    std::unique_ptr<Station> station;
-
 private slots:
-    void init() { station = std::make_unique<Station>(); }
     void cleanup()
     {
-        station.reset();
+        StationTest::cleanup();
         QFile::setPermissions(recordFile, QFile::ReadOwner | QFile::WriteOwner);
         QVERIFY(!QFileInfo::exists(recordFile) || QDir().rmdir(recordFile) || QFile::remove(recordFile));
     }

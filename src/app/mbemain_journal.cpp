@@ -1,0 +1,78 @@
+// What the journal is told that belongs to no room alone: start and end, time, the minute's temperatures.
+
+#include "app/adapteraddress.h"
+#include "app/mbemain.h"
+#include "base/awakeclock.h"
+#include "base/wallclock.h"
+#include "journal/journal.h"
+#include "journal/linkjournal.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+namespace {
+
+constexpr qint64 minuteMs = 60000;
+
+// How the run before this one ended, by what the journal has last.
+QString lastRun(const std::optional<JournalLine>& last)
+{
+    if (!last) {
+        return QStringLiteral("none");
+    }
+    return last->kind == QLatin1String("exit") ? QStringLiteral("ended") : QStringLiteral("broken off");
+}
+
+QString textsOf(const QList<QLabel*>& labels)
+{
+    QStringList texts;
+    for (const QLabel* label : labels) {
+        texts.append(label->text());
+    }
+    return texts.join(QLatin1Char(' '));
+}
+
+} // namespace
+
+void MBEMain::setupJournal()
+{
+    journal = new Journal;
+    const bool everyByte = qEnvironmentVariable("NELVO_JOURNAL") == QLatin1String("--wire");
+    linkJournal = new LinkJournal(*journal, everyByte);
+    journal->write("start",
+        {{"version", QStringLiteral(NELVO_VERSION)}, {"adapter", adapterAddress()},
+            {"language", tr("English", "the name of the language of these texts")},
+            {"folder", QDir::currentPath()}, {"last-run", lastRun(journal->lastLine())}});
+    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { journal->write("exit"); });
+    nextMinuteMs = WallClock::nowMs() + minuteMs;
+}
+
+void MBEMain::journalPc(const QString& text)
+{
+    journal->write("pc", {{"text", text}});
+}
+
+void MBEMain::journalCell(const char* kind, int ch, const JournalFields& fields)
+{
+    journal->write(kind, JournalFields{{"cell", QLatin1String(Channels::list[ch].name)}} + fields);
+}
+
+void MBEMain::journalTick()
+{
+    linkJournal->tick();
+    const qint64 now = WallClock::nowMs();
+    const TimeWatch::Findings found = timeWatch.look({now, WallClock::systemMs(), sleptMs()});
+    const auto tell = [this](const char* kind, qint64 ms) {
+        if (ms != 0) {
+            journal->write(kind, {{"ms", QString::number(ms)}});
+        }
+    };
+    tell("clock-stepped", found.steppedMs);
+    tell("slept", found.sleptMs);
+    tell("late-tick", found.lateMs);
+    if (now < nextMinuteMs) {
+        return;
+    }
+    nextMinuteMs += ((now - nextMinuteMs) / minuteMs + 1) * minuteMs;
+    journal->write("minute", {{"measured", textsOf(currentLabels)}, {"set-points", textsOf(setPointLabels)}});
+}

@@ -1,0 +1,89 @@
+#include "journal/journal.h"
+
+#include "base/wallclock.h"
+#include "base/wholefile.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+QString older(const QString& name, int number)
+{
+    return number == 0 ? name : QStringLiteral("%1.%2").arg(name).arg(number);
+}
+
+} // namespace
+
+Journal::Journal(const QString& name)
+    : fileName(QFileInfo(name).absoluteFilePath())
+    , startMs(WallClock::nowMs())
+{
+}
+
+std::optional<JournalLine> Journal::lastLine() const
+{
+    constexpr qint64 longestEnd = 64 * 1024;
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return std::nullopt;
+    }
+    file.seek(qMax<qint64>(0, file.size() - longestEnd));
+    const QList<QByteArray> lines = file.readAll().split('\n');
+    for (int i = lines.size() - 1; i >= 0; --i) {
+        if (std::optional<JournalLine> line = readJournalLine(lines[i])) {
+            return line;
+        }
+    }
+    return std::nullopt;
+}
+
+void Journal::write(const char* kind, const JournalFields& fields)
+{
+    JournalLine line = lineNow(kind);
+    line.fields = fields;
+    append(journalText(line));
+}
+
+void Journal::append(const QByteArray& text)
+{
+    if (QFileInfo(fileName).size() + text.size() > largestFile) {
+        rotate();
+    }
+    QByteArray lines = text;
+    if (lostLines > 0) {
+        JournalLine loss = lineNow("lost-lines");
+        loss.fields = {{"count", QString::number(lostLines)}};
+        lines.prepend(journalText(loss));
+    }
+    if (appendToFile(fileName, lines)) {
+        lostLines = 0;
+    } else {
+        ++lostLines;
+    }
+}
+
+// A file that cannot be put aside, as when somebody has it open, is written on.
+void Journal::rotate()
+{
+    QFile::remove(older(fileName, olderFiles));
+    for (int number = olderFiles - 1; number >= 0; --number) {
+        QFile::rename(older(fileName, number), older(fileName, number + 1));
+    }
+}
+
+JournalLine Journal::lineNow(const char* kind) const
+{
+    JournalLine line;
+    line.systemMs = WallClock::systemMs();
+    line.offsetSec = QDateTime::fromMSecsSinceEpoch(line.systemMs).offsetFromUtc();
+    line.elapsedSec = static_cast<double>(WallClock::nowMs() - startMs) / 1000.0;
+    line.kind = QLatin1String(kind);
+    return line;
+}
+
+QString journalNumber(double value)
+{
+    return QString::number(value, 'g', 6);
+}

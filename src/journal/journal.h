@@ -1,0 +1,39 @@
+#pragma once
+
+#include "journal/journalline.h"
+
+#include <QString>
+
+/// What happened, a line an event, in a file that outlives the program: appended and flushed a line at a
+/// time, so that nothing is lost but what a crash cut off.
+///
+/// At 8 MiB the file is put aside as NAME.1, the one before it as NAME.2, and so on; four of them are kept. A
+/// full disk or a closed folder costs the lines and nothing else; how many were lost is told as soon as there
+/// is room.
+class Journal
+{
+public:
+    static constexpr qint64 largestFile = 8 * 1024 * 1024;
+    static constexpr int olderFiles = 4;
+
+    /// Writes to the file `name`, which need not be there yet; relative names count from the working
+    /// directory.
+    explicit Journal(const QString& name = QStringLiteral("NelvoJournal.log"));
+
+    /// The last whole line of the file as it stands; none when there is no file or no line.
+    std::optional<JournalLine> lastLine() const;
+
+    void write(const char* kind, const JournalFields& fields = {});
+
+private:
+    void append(const QByteArray& text);
+    void rotate();
+    JournalLine lineNow(const char* kind) const;
+
+    QString fileName;
+    qint64 startMs; // the program's start by WallClock
+    qint64 lostLines = 0;
+};
+
+/// A number as journals and panels show it: up to six significant digits.
+QString journalNumber(double value);
