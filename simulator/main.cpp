@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QTimer>
 
 #include <csignal>
@@ -11,6 +12,7 @@
 namespace {
 
 constexpr int statusCannotListen = 1;
+constexpr int statusCannotRecord = 1;
 constexpr int statusBadOption = 2;
 constexpr int stopPollMs = 50;
 
@@ -73,6 +75,16 @@ int main(int argc, char* argv[])
         return statusCannotListen;
     }
     isQuiet = options.quiet;
+    QFile record(options.recordFile);
+    if (!options.recordFile.isEmpty() && !record.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        complain(QStringLiteral("cannot write %1: %2").arg(options.recordFile, record.errorString()));
+        return statusCannotRecord;
+    }
+    QObject::connect(&server, &Chamber::ChamberServer::received, &record, [&record](const QByteArray& bytes) {
+        if (record.isOpen()) {
+            record.write(bytes);
+        }
+    });
     if (options.once) {
         QObject::connect(&server, &Chamber::ChamberServer::clientLeft, &application, &QCoreApplication::quit);
     }

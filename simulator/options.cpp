@@ -16,6 +16,7 @@ const QString seedName = QStringLiteral("seed");
 const QString timeScaleName = QStringLiteral("time-scale");
 const QString latencyName = QStringLiteral("latency");
 const QString faultOptionName = QStringLiteral("fault");
+const QString recordName = QStringLiteral("record");
 const QString quietName = QStringLiteral("quiet");
 const QString onceName = QStringLiteral("once");
 const QString helpName = QStringLiteral("help");
@@ -53,6 +54,8 @@ void defineOptions(QCommandLineParser& parser)
             QStringLiteral("How long every reply takes in ms, give or take JITTER (5:2; 0 is at once)."),
             QStringLiteral("ms[:jitter]")},
         {faultOptionName, QString::fromLatin1(faultHelp), QStringLiteral("kind=rate")},
+        {recordName, QStringLiteral("Keeps every byte that clients send in this file."),
+            QStringLiteral("file")},
         {quietName, QStringLiteral("Logs nothing but where it listens.")},
         {onceName, QStringLiteral("Ends when the first client has left.")},
         {QStringList({QStringLiteral("h"), helpName}), QStringLiteral("Shows this and ends.")},
@@ -111,6 +114,12 @@ QString readLatency(const QString& value, Options& options)
     return {};
 }
 
+QString readRecord(const QString& value, Options& options)
+{
+    options.recordFile = value;
+    return value.isEmpty() ? wrongValue(recordName, value, QStringLiteral("a file's name")) : QString();
+}
+
 QString readFaults(const QStringList& values, Options& options)
 {
     std::array<bool, faultKindCount> given = {};
@@ -147,6 +156,7 @@ QString readValues(const QCommandLineParser& parser, Options& options)
         {seedName, &readSeed},
         {timeScaleName, &readTimeScale},
         {latencyName, &readLatency},
+        {recordName, &readRecord},
     };
     for (const auto& reader : readers) {
         const QStringList values = parser.values(reader.first);

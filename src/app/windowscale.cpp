@@ -19,32 +19,6 @@ namespace {
 constexpr double neededWidth = 1058 + 16;
 constexpr double neededHeight = 520 + 40;
 
-#ifdef Q_OS_WIN
-
-constexpr double usualDpi = 96.0;
-
-void keepWindowOnScreen()
-{
-    RECT work = {};
-    const double systemScale = GetDpiForSystem() / usualDpi;
-    if (SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0) == 0
-        || qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) {
-        return;
-    }
-    const QSize freePixels(
-        static_cast<int>(work.right - work.left), static_cast<int>(work.bottom - work.top));
-    // The toolkit multiplies the system's scale by it.
-    qputenv("QT_SCALE_FACTOR", QByteArray::number(scaleThatFits(systemScale, freePixels) / systemScale));
-}
-
-#else
-
-// Elsewhere the toolkit knows no screen before there is an application, and small screens at large scales are
-// rare.
-void keepWindowOnScreen() { }
-
-#endif
-
 } // namespace
 
 double scaleThatFits(double systemScale, QSize freePixels)
@@ -52,12 +26,38 @@ double scaleThatFits(double systemScale, QSize freePixels)
     return std::min({systemScale, freePixels.width() / neededWidth, freePixels.height() / neededHeight});
 }
 
+#ifdef Q_OS_WIN
+
+namespace {
+
+constexpr double usualDpi = 96.0;
+
+QSize freePixels()
+{
+    RECT area = {};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+    return {static_cast<int>(area.right - area.left), static_cast<int>(area.bottom - area.top)};
+}
+
+} // namespace
+
 void setUpScale()
 {
     QGuiApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-    keepWindowOnScreen();
+    const double systemScale = GetDpiForSystem() / usualDpi;
+    const double scale = scaleThatFits(systemScale, freePixels());
+    if (scale < systemScale && !qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) {
+        // The toolkit multiplies the system's scale by it.
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(scale / systemScale));
+    }
 }
+
+#else
+
+void setUpScale() { }
+
+#endif
 
 void fitIntoFreeArea(QWidget& window)
 {

@@ -78,8 +78,8 @@ private slots:
         QSKIP("needs libfaketime");
 #endif
         setClockBy(0);
-        chamber = std::make_unique<Process>(
-            QStringLiteral(CHAMBERSIM_PROGRAM), QStringList{"--listen"_s, ownLoopbackAddress()});
+        chamber
+            = std::make_unique<Process>(chambersimProgram(), QStringList{"--listen"_s, ownLoopbackAddress()});
         QVERIFY(chamber->waitForText("listening "_s));
         station = std::make_unique<HandledStation>(steppedClock());
         QVERIFY(station->isUp());

@@ -11,16 +11,16 @@ constexpr int patienceMs = 20000;
 
 } // namespace
 
-HandledStation::HandledStation(const QStringList& environment)
+HandledStation::HandledStation(const QStringList& environment, const QStringList& arguments)
 {
     const QString name = QStringLiteral("nelvo-hands-%1").arg(QCoreApplication::applicationPid());
     QLocalServer::removeServer(name);
     if (!server.listen(name)) {
         qFatal("no place for the hands: %s", qPrintable(server.errorString()));
     }
-    nelvo = std::make_unique<Process>(QStringLiteral(NELVO_PROGRAM), QStringList{QStringLiteral("-e")},
-        QStringList{QStringLiteral("NELVO_ADAPTER=") + ownLoopbackAddress(),
-            QStringLiteral("QT_QPA_PLATFORM=offscreen"), QStringLiteral("QT_QPA_GENERIC_PLUGINS=nelvohands"),
+    nelvo = std::make_unique<Process>(nelvoProgram(), arguments,
+        QStringList{QStringLiteral("NELVO_ADAPTER=") + ownLoopbackAddress(), stationPlatform(),
+            QStringLiteral("QT_QPA_GENERIC_PLUGINS=nelvohands"),
             QStringLiteral("QT_PLUGIN_PATH=" NELVO_HANDS_PLUGINS), QStringLiteral("NELVO_HANDS=") + name}
             + environment);
 }
@@ -46,6 +46,12 @@ bool HandledStation::answers()
 {
     QString answer;
     return tryToAsk({QStringLiteral("status")}, answer);
+}
+
+QPoint HandledStation::where(const QString& name)
+{
+    const QStringList place = ask({QStringLiteral("where"), name}).split(QLatin1Char(' '));
+    return {place.value(0).toInt(), place.value(1).toInt()};
 }
 
 QString HandledStation::ask(const QStringList& words)

@@ -12,8 +12,6 @@ using namespace TestText;
 
 namespace {
 
-const QString station = QStringLiteral(NELVO_PROGRAM);
-const QString simulator = QStringLiteral(CHAMBERSIM_PROGRAM);
 const QString english = "\"GPIB shutter controll [xxxxxxx]\""_s;
 const QString japanese = "\"GPIB シャッター制御 [xxxxxxx]\""_s;
 
@@ -28,12 +26,29 @@ bool recordGrowsBeyond(Process& running, int lines)
     return running.waitFor([&](const QString&) { return fileText(recordFile).count('\n') > lines; });
 }
 
+#ifdef Q_OS_WIN
+const QString programEnding = ".exe"_s;
+#else
+const QString programEnding;
+#endif
+
+// Has the station be started under another name as well.
+bool giveName(const QString& program)
+{
+#ifdef Q_OS_WIN
+    return QFile::copy(nelvoProgram(), program); // a link would be started under its target's name
+#else
+    return QFile::link(nelvoProgram(), program);
+#endif
+}
+
 // The simulator, listening at this process's own address.
 class Chamber : public Process
 {
 public:
     explicit Chamber(const QStringList& faults = {})
-        : Process(simulator, QStringList{"--listen"_s, ownLoopbackAddress(), "--seed"_s, "7"_s} + faults)
+        : Process(
+            chambersimProgram(), QStringList{"--listen"_s, ownLoopbackAddress(), "--seed"_s, "7"_s} + faults)
     {
         if (!waitForText("listening "_s)) {
             qFatal("the simulator does not listen");
@@ -45,9 +60,9 @@ public:
 class Nelvo : public Process
 {
 public:
-    explicit Nelvo(const QStringList& arguments = {}, const QString& program = station)
+    explicit Nelvo(const QStringList& arguments = {}, const QString& program = nelvoProgram())
         : Process(program, arguments,
-            {"NELVO_ADAPTER="_s + ownLoopbackAddress(), "QT_QPA_PLATFORM=offscreen"_s, "LC_ALL=C.UTF-8"_s})
+            {"NELVO_ADAPTER="_s + ownLoopbackAddress(), stationPlatform(), "LC_ALL=C.UTF-8"_s})
     {
     }
 };
@@ -113,9 +128,9 @@ private slots:
 
         QTemporaryDir directory;
         QVERIFY(directory.isValid());
-        const QString program = directory.filePath(name);
+        const QString program = directory.filePath(name + programEnding);
         QVERIFY(QDir().mkpath(QFileInfo(program).path()));
-        QVERIFY(QFile::link(station, program));
+        QVERIFY(giveName(program));
         Nelvo nelvo(arguments, program);
         QVERIFY(nelvo.waitForText(expected));
     }
@@ -155,7 +170,7 @@ private slots:
         Chamber chamber(faults);
         Nelvo nelvo;
         QVERIFY(chamber.waitForText("fault "_s));
-        chamber.terminate();
+        chamber.kill();
         // It takes the loss of the connection in, which it could not if it hung.
         QVERIFY(nelvo.isRunning());
         nelvo.terminate();
