@@ -1,5 +1,5 @@
 # Builds for 64-bit Windows on Debian, with Debian's MinGW and a Qt for Windows in the folder NELVO_QT_WIN64
-# (packaging/windows/qt prints it).
+# (packaging/windows/qt makes and names it).
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 # The compilers whose library knows threads.

@@ -111,6 +111,12 @@ bool Process::isRunning()
     return process.state() == QProcess::Running;
 }
 
+int Process::exitCode()
+{
+    const bool hasEnded = process.state() == QProcess::NotRunning || process.waitForFinished(patienceMs);
+    return hasEnded && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+}
+
 QString Process::output()
 {
     read();

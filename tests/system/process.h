@@ -37,6 +37,9 @@ public:
     void kill();
 
     bool isRunning();
+    /// Waits for the program to end by itself; its exit status, or -1 when it has not ended after 20 s or
+    /// broke down.
+    int exitCode();
     QString output();
     /// Forgets the output so far.
     void forget();
