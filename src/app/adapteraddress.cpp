@@ -15,7 +15,7 @@ QString addressInEnvironment()
 
 QString adapterAddress()
 {
-    const QString named = addressInEnvironment();
+    QString named = addressInEnvironment();
     if (!named.isEmpty()) {
         return named;
     }

@@ -27,7 +27,7 @@ TickLateness measureTicks(int seconds)
     QEventLoop loop;
     QObject::connect(&timer, &QTimer::timeout, &loop, [&] {
         ticks.tick(static_cast<double>(clock.nsecsElapsed()) / 1e6);
-        if (clock.elapsed() >= 1000 * seconds) {
+        if (clock.elapsed() >= qint64(1000) * seconds) {
             loop.quit();
         }
     });
