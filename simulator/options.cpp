@@ -17,6 +17,7 @@ const QString timeScaleName = QStringLiteral("time-scale");
 const QString latencyName = QStringLiteral("latency");
 const QString faultOptionName = QStringLiteral("fault");
 const QString recordName = QStringLiteral("record");
+const QString replayName = QStringLiteral("replay");
 const QString quietName = QStringLiteral("quiet");
 const QString onceName = QStringLiteral("once");
 const QString helpName = QStringLiteral("help");
@@ -55,6 +56,11 @@ void defineOptions(QCommandLineParser& parser)
             QStringLiteral("ms[:jitter]")},
         {faultOptionName, QString::fromLatin1(faultHelp), QStringLiteral("kind=rate")},
         {recordName, QStringLiteral("Keeps every byte that clients send in this file."),
+            QStringLiteral("file")},
+        {replayName,
+            QStringLiteral(
+                "Answers as the station's journal FILE has it (written with NELVO_JOURNAL=--wire), and ends\n"
+                "with the first command that differs; --time-scale makes it faster."),
             QStringLiteral("file")},
         {quietName, QStringLiteral("Logs nothing but where it listens.")},
         {onceName, QStringLiteral("Ends when the first client has left.")},
@@ -120,6 +126,12 @@ QString readRecord(const QString& value, Options& options)
     return value.isEmpty() ? wrongValue(recordName, value, QStringLiteral("a file's name")) : QString();
 }
 
+QString readReplay(const QString& value, Options& options)
+{
+    options.replayFile = value;
+    return value.isEmpty() ? wrongValue(replayName, value, QStringLiteral("a file")) : QString();
+}
+
 QString readFaults(const QStringList& values, Options& options)
 {
     std::array<bool, faultKindCount> given = {};
@@ -157,6 +169,7 @@ QString readValues(const QCommandLineParser& parser, Options& options)
         {timeScaleName, &readTimeScale},
         {latencyName, &readLatency},
         {recordName, &readRecord},
+        {replayName, &readReplay},
     };
     for (const auto& reader : readers) {
         const QStringList values = parser.values(reader.first);
@@ -170,6 +183,10 @@ QString readValues(const QCommandLineParser& parser, Options& options)
         if (!error.isEmpty()) {
             return error;
         }
+    }
+    const bool hasFaults = parser.isSet(faultOptionName);
+    if (hasFaults && !options.replayFile.isEmpty()) {
+        return QStringLiteral("--fault with --replay: a recording has the faults that it has");
     }
     return readFaults(parser.values(faultOptionName), options);
 }

@@ -19,6 +19,7 @@ struct Options
     int jitterMs = 2;
     FaultRates faultRates = {};
     QString recordFile; ///< keeps the bytes that clients send; empty for none
+    QString replayFile; ///< a journal whose bytes are played again; empty to play the chamber
     bool quiet = false; ///< log nothing but where it listens
     bool once = false; ///< end when the first client has left
 };

@@ -97,7 +97,8 @@ int main(int argc, char* argv[])
     // and of its link must not change that.
     auto* window = new MBEMain;
     PcGuard guard(*window, [window] { return workOf(*window); });
-    QObject::connect(&guard, &PcGuard::told, window, &MBEMain::journalPc);
+    QObject::connect(&guard, &PcGuard::asked, window, &MBEMain::journalPc);
+    QObject::connect(&guard, &PcGuard::sessionEnds, window, &MBEMain::journalSessionEnd);
     guard.start();
     fitIntoFreeArea(*window);
     window->show();

@@ -44,8 +44,9 @@ public:
     bool isPlaying() const { return player.progRunning; }
     /// Whether any cell's set point is being ramped.
     bool isRamping() const { return anyCellRunning(); }
-    /// Has the journal say what came of something that was asked of the PC.
-    void journalPc(const QString& text);
+    /// Have the journal tell what was asked of the PC, and that the session is to end.
+    void journalPc(const QString& asked, const QString& answer);
+    void journalSessionEnd(bool isHeldUp);
 
 signals:
     /// Declared only; the chart is fed by direct calls.

@@ -47,9 +47,14 @@ void MBEMain::setupJournal()
     nextMinuteMs = WallClock::nowMs() + minuteMs;
 }
 
-void MBEMain::journalPc(const QString& text)
+void MBEMain::journalPc(const QString& asked, const QString& answer)
 {
-    journal->write("pc", {{"text", text}});
+    journal->write("pc", {{"asked", asked}, {"answer", answer}});
+}
+
+void MBEMain::journalSessionEnd(bool isHeldUp)
+{
+    journal->write("session-end", {{"held-up", isHeldUp ? QStringLiteral("yes") : QStringLiteral("no")}});
 }
 
 void MBEMain::journalCell(const char* kind, int ch, const JournalFields& fields)

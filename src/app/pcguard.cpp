@@ -15,7 +15,7 @@ constexpr int lookEveryMs = 1000;
 
 QString outcome(const QString& refusal)
 {
-    return refusal.isEmpty() ? QStringLiteral("done") : QStringLiteral("refused, ") + refusal;
+    return refusal.isEmpty() ? QStringLiteral("done") : QStringLiteral("refused: ") + refusal;
 }
 
 } // namespace
@@ -33,7 +33,7 @@ PcGuard::PcGuard(QWidget& guarded, std::function<Work()> whatIsDone)
 
 void PcGuard::start()
 {
-    emit told(QStringLiteral("no throttling under a covered window: ") + outcome(refuseThrottling()));
+    emit asked(QStringLiteral("no-throttling"), outcome(refuseThrottling()));
     timer.start(lookEveryMs);
 }
 
@@ -54,12 +54,12 @@ void PcGuard::keepAwake(Work now)
 {
     if (now == Work::None) {
         awake.release();
-        emit told(QStringLiteral("the PC may sleep"));
+        emit asked(QStringLiteral("may-sleep"), outcome({}));
         return;
     }
     const QString reason
         = now == Work::Program ? tr("A growth program is playing.") : tr("A cell's temperature is ramping.");
-    emit told(QStringLiteral("keep the PC awake: ") + outcome(awake.hold(reason)));
+    emit asked(QStringLiteral("awake"), outcome(awake.hold(reason)));
 }
 
 void PcGuard::holdUpSessionEnd(bool isPlaying)
@@ -67,7 +67,7 @@ void PcGuard::holdUpSessionEnd(bool isPlaying)
     if (isPlaying) {
         const QString refusal = blockShutdown(window.winId(), tr("A growth program is playing."));
         holdsUpSessionEnd = refusal.isEmpty();
-        emit told(QStringLiteral("hold up the end of the session: ") + outcome(refusal));
+        emit asked(QStringLiteral("hold-session-end"), outcome(refusal));
     } else if (holdsUpSessionEnd) {
         allowShutdown(window.winId());
         holdsUpSessionEnd = false;
@@ -80,6 +80,5 @@ void PcGuard::answerSessionEnd(QSessionManager& manager)
     if (holdsUpSessionEnd) {
         manager.cancel();
     }
-    emit told(holdsUpSessionEnd ? QStringLiteral("the session is to end while a program plays: held up")
-                                : QStringLiteral("the session is to end"));
+    emit sessionEnds(holdsUpSessionEnd);
 }

@@ -28,9 +28,11 @@ public:
     void start();
 
 signals:
-    /// Something that the operator may want to read afterwards, in English: what was asked of the PC and what
-    /// came of it, or that the session was to end.
-    void told(const QString& line);
+    /// The platform was asked for `what`, "no-throttling", "awake", "may-sleep" or "hold-session-end", and
+    /// its answer is "done" or, in English, why not.
+    void asked(const QString& what, const QString& answer);
+    /// The session is to end; whether that is held up.
+    void sessionEnds(bool isHeldUp);
 
 private:
     void look();

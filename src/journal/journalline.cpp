@@ -7,7 +7,11 @@
 
 namespace {
 
-const QString timeFormat = QStringLiteral("yyyy-MM-ddTHH:mm:ss.zzz");
+QString timeFormat()
+{
+    return QStringLiteral("yyyy-MM-ddTHH:mm:ss.zzz");
+}
+
 constexpr int timeLength = 23; // of a time in that format, the offset from UTC behind it
 constexpr int secPerHour = 3600;
 
@@ -22,49 +26,37 @@ QString escaped(const QString& value)
     QString text;
     text.reserve(value.size());
     for (const QChar character : value) {
-        switch (character.unicode()) {
-        case '\\':
+        if (character == QLatin1Char('\\')) {
             text += QLatin1String("\\\\");
-            break;
-        case '\t':
-            text += QLatin1String("\\t");
-            break;
-        case '\n':
-            text += QLatin1String("\\n");
-            break;
-        case '\r':
-            text += QLatin1String("\\r");
-            break;
-        default:
+        } else if (character.unicode() < 0x20 || character.unicode() == 0x7F) {
+            text += QStringLiteral("\\x%1").arg(character.unicode(), 2, 16, QLatin1Char('0'));
+        } else {
             text += character;
         }
     }
     return text;
 }
 
-QString unescaped(const QString& text)
+std::optional<QString> unescaped(const QString& text)
 {
     QString value;
     value.reserve(text.size());
     for (int i = 0; i < text.size(); ++i) {
-        const bool isEscape = text[i] == QLatin1Char('\\') && i + 1 < text.size();
-        if (!isEscape) {
+        if (text[i] != QLatin1Char('\\')) {
             value += text[i];
             continue;
         }
-        ++i;
-        switch (text[i].unicode()) {
-        case 't':
-            value += QLatin1Char('\t');
-            break;
-        case 'n':
-            value += QLatin1Char('\n');
-            break;
-        case 'r':
-            value += QLatin1Char('\r');
-            break;
-        default:
-            value += text[i];
+        const QChar next = i + 1 < text.size() ? text[i + 1] : QChar();
+        bool isCode = false;
+        const int code = text.mid(i + 2, 2).toInt(&isCode, 16);
+        if (next == QLatin1Char('\\')) {
+            value += next;
+            i += 1;
+        } else if (next == QLatin1Char('x') && i + 4 <= text.size() && isCode) {
+            value += QChar(code);
+            i += 3;
+        } else {
+            return std::nullopt;
         }
     }
     return value;
@@ -73,7 +65,7 @@ QString unescaped(const QString& text)
 // The time with its offset, "2026-11-21T09:41:07.123+09:00", into `line`; false when it is none.
 bool readTime(const QString& text, JournalLine& line)
 {
-    QDateTime time = QDateTime::fromString(text.left(timeLength), timeFormat);
+    QDateTime time = QDateTime::fromString(text.left(timeLength), timeFormat());
     const QString offset = text.mid(timeLength);
     const QTime size = QTime::fromString(offset.mid(1), QStringLiteral("HH:mm"));
     const bool hasSign = offset.startsWith(QLatin1Char('+')) || offset.startsWith(QLatin1Char('-'));
@@ -102,7 +94,7 @@ QString JournalLine::value(const QString& name) const
 QByteArray journalText(const JournalLine& line)
 {
     const QDateTime time = QDateTime::fromMSecsSinceEpoch(line.systemMs, Qt::OffsetFromUTC, line.offsetSec);
-    QString text = time.toString(timeFormat) + offsetText(line.offsetSec) + QLatin1Char('\t')
+    QString text = time.toString(timeFormat()) + offsetText(line.offsetSec) + QLatin1Char('\t')
         + QString::number(line.elapsedSec, 'f', 3) + QLatin1Char('\t') + line.kind;
     for (const JournalField& field : line.fields) {
         text += QLatin1Char('\t') + field.name + QLatin1Char('=') + escaped(field.value);
@@ -129,10 +121,11 @@ std::optional<JournalLine> readJournalLine(const QByteArray& text)
     line.kind = words[2];
     for (const QString& word : words.mid(3)) {
         const int equals = word.indexOf(QLatin1Char('='));
-        if (equals <= 0) {
+        const std::optional<QString> value = unescaped(word.mid(equals + 1));
+        if (equals <= 0 || !value) {
             return std::nullopt;
         }
-        line.fields.append({word.left(equals), unescaped(word.mid(equals + 1))});
+        line.fields.append({word.left(equals), *value});
     }
     return line;
 }

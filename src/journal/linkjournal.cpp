@@ -37,14 +37,14 @@ void LinkJournal::sent(const QByteArray& bytes)
         readUnit = bytes.endsWith("M1\x05\n") ? bytes[2] : '\0';
     }
     if (tellsBytes) {
-        journal.write("sent", {{"bytes", journalBytes(bytes)}});
+        journal.write("sent", {{"bytes", QString::fromLatin1(bytes)}});
     }
 }
 
 void LinkJournal::received(const QByteArray& bytes)
 {
     if (tellsBytes) {
-        journal.write("received", {{"bytes", journalBytes(bytes)}});
+        journal.write("received", {{"bytes", QString::fromLatin1(bytes)}});
     }
 }
 
@@ -72,7 +72,7 @@ void LinkJournal::lineArrived(const QByteArray& line, bool wasAwaited)
         --awaitedLines;
         return;
     }
-    journal.write("unasked-line", {{"line", journalBytes(line)}});
+    journal.write("unasked-line", {{"line", QString::fromLatin1(line)}});
 }
 
 void LinkJournal::followReading(const QByteArray& line)
@@ -91,7 +91,8 @@ void LinkJournal::followShift(bool isOwn, const QByteArray& line)
         if (strangeReadings == 0) {
             shiftedSinceMs = WallClock::nowMs();
             journal.write("readings-shifted",
-                {{"asked", QStringLiteral("0") + QLatin1Char(readUnit)}, {"line", journalBytes(line)}});
+                {{"asked", QStringLiteral("0") + QLatin1Char(readUnit)},
+                    {"line", QString::fromLatin1(line)}});
         }
         ++strangeReadings;
         return;
@@ -111,48 +112,4 @@ void LinkJournal::tick()
         isHeldTold = true;
         journal.write("bus-held");
     }
-}
-
-QString journalBytes(const QByteArray& bytes)
-{
-    QString text;
-    for (const char byte : bytes) {
-        const auto code = static_cast<uchar>(byte);
-        if (byte == '\\') {
-            text += QLatin1String("\\\\");
-        } else if (code >= 0x20 && code < 0x7F) {
-            text += QLatin1Char(byte);
-        } else {
-            text += QStringLiteral("\\x%1").arg(code, 2, 16, QLatin1Char('0'));
-        }
-    }
-    return text;
-}
-
-std::optional<QByteArray> bytesOfJournal(const QString& text)
-{
-    QByteArray bytes;
-    for (int i = 0; i < text.size(); ++i) {
-        const char character = text[i].toLatin1();
-        if (character < 0x20 || character >= 0x7F) {
-            return std::nullopt;
-        }
-        if (character != '\\') {
-            bytes.append(character);
-            continue;
-        }
-        if (text.mid(i, 2) == QLatin1String("\\\\")) {
-            bytes.append('\\');
-            ++i;
-            continue;
-        }
-        bool isByte = false;
-        const int code = text.mid(i + 2, 2).toInt(&isByte, 16);
-        if (text.mid(i, 2) != QLatin1String("\\x") || i + 4 > text.size() || !isByte) {
-            return std::nullopt;
-        }
-        bytes.append(static_cast<char>(code));
-        i += 3;
-    }
-    return bytes;
 }

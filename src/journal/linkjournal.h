@@ -46,9 +46,3 @@ private:
     bool isHeldTold = false;
     qint64 awaitedSinceMs = 0;
 };
-
-/// Bytes as text: printable ASCII as it is, all others as "\xHH", a backslash as "\\".
-QString journalBytes(const QByteArray& bytes);
-
-/// The bytes that such a text stands for; nothing for a text that is none.
-std::optional<QByteArray> bytesOfJournal(const QString& text);

@@ -132,6 +132,7 @@ void MBEMain::startStep(qint64 nowMs)
     journalStep();
     if (player.progPaused) {
         showPaused();
+        journal->write("hold");
     }
     progLines[row]->setMark(true);
     // Whether a channel is marked in use is not asked here.

@@ -22,29 +22,29 @@ private slots:
     void eachChangeOfWorkIsAskedOfThePcOnce()
     {
         PcGuard guard(window, [this] { return work; });
-        QSignalSpy told(&guard, &PcGuard::told);
-        const auto said = [&told] {
+        QSignalSpy asked(&guard, &PcGuard::asked);
+        const auto taken = [&asked] {
             QStringList lines;
-            while (!told.isEmpty()) {
-                lines.append(told.takeFirst().value(0).toString().section(u':', 0, 0));
+            while (!asked.isEmpty()) {
+                lines.append(asked.takeFirst().value(0).toString());
             }
             return lines;
         };
 
         guard.start();
-        QCOMPARE(said(), QStringList({"no throttling under a covered window"_s}));
+        QCOMPARE(taken(), QStringList({"no-throttling"_s}));
 
         work = PcGuard::Work::Ramp;
-        QTRY_COMPARE(told.size(), 1);
-        QCOMPARE(said(), QStringList({"keep the PC awake"_s}));
+        QTRY_COMPARE(asked.size(), 1);
+        QCOMPARE(taken(), QStringList({"awake"_s}));
 
         work = PcGuard::Work::Program;
-        QTRY_COMPARE(told.size(), 2);
-        QCOMPARE(said(), QStringList({"keep the PC awake"_s, "hold up the end of the session"_s}));
+        QTRY_COMPARE(asked.size(), 2);
+        QCOMPARE(taken(), QStringList({"awake"_s, "hold-session-end"_s}));
 
         work = PcGuard::Work::None;
-        QTRY_COMPARE(told.size(), 1);
-        QCOMPARE(said(), QStringList({"the PC may sleep"_s}));
+        QTRY_COMPARE(asked.size(), 1);
+        QCOMPARE(taken(), QStringList({"may-sleep"_s}));
     }
 
     void theToolkitDoesNotCloseTheWindowWhenTheSessionIsToEnd()

@@ -68,6 +68,12 @@ private slots:
         QVERIFY(commandLine.options.once);
     }
 
+    void aRecordingIsNamed()
+    {
+        QCOMPARE(read(words("--replay day.log")).options.replayFile, QStringLiteral("day.log"));
+        QVERIFY(read({}).options.replayFile.isEmpty());
+    }
+
     void aLatencyAloneHasNoJitter()
     {
         const Options options = read(words("--latency 0")).options;
@@ -110,6 +116,8 @@ private slots:
         row("--fault late=", "--fault 'late='");
         row("--fault late=0.1 --fault late=0.2", "--fault 'late=0.2'");
         row("--record=", "--record ''");
+        row("--replay=", "--replay ''");
+        row("--replay a --fault late=0.1", "--fault with --replay");
         row("--quiet=yes", "quiet");
     }
 
@@ -126,7 +134,7 @@ private slots:
         const CommandLine commandLine = read({"--help"_s});
         QCOMPARE(commandLine.error, QString());
         for (const char* option : {"--listen", "--port", "--seed", "--time-scale", "--latency", "--fault",
-                 "--record", "--quiet", "--once", "--help", "--version"}) {
+                 "--record", "--replay", "--quiet", "--once", "--help", "--version"}) {
             QVERIFY2(commandLine.text.contains(QLatin1String(option)), option);
         }
         for (int kind = 0; kind < faultKindCount; ++kind) {
