@@ -87,6 +87,8 @@ int main(int argc, char* argv[])
     const Language& language = chooseLanguage(arguments);
     QTranslator translator;
     speak(language, translator);
+    QTranslator dialogTranslator;
+    speakInDialogs(language, dialogTranslator);
     useFontFor(language);
     const QString mistake = adapterMistake();
     if (!mistake.isEmpty()) {

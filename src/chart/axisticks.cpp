@@ -7,11 +7,12 @@ namespace AxisTicks {
 
 namespace {
 
-// A negative power of ten is no double, and not every C library rounds it to the nearest one: 0.51 would come
-// out as 0.5. The positive ones are exact, and so is what they divide.
+// value * 10^exponent. No negative power of ten is a double, and some C libraries miss the nearest one; the
+// positive powers are exact.
 double timesPowerOfTen(double value, double exponent)
 {
-    return exponent < 0.0 ? value / std::pow(10.0, -exponent) : value * std::pow(10.0, exponent);
+    const double power = std::pow(10.0, std::abs(exponent));
+    return exponent < 0.0 ? value / power : value * power;
 }
 
 } // namespace

@@ -2,8 +2,8 @@
 
 #include "chart/chartview.h"
 #include "chart/chcoord.h"
+#include "chart/lines/pointbuffer.h"
 #include "chart/mousec.h"
-#include "chart/pointbuffer.h"
 
 #include <QColor>
 #include <QFrame>

@@ -1,7 +1,7 @@
 // The painting of the chart.
 
 #include "chart/axisticks.h"
-#include "chart/linestrokes.h"
+#include "chart/lines/curvepainter.h"
 #include "chart/tshowview.h"
 
 #include <QPainter>
@@ -125,26 +125,10 @@ void TShowView::paintEvent(QPaintEvent*)
 
 void TShowView::paintLines(QPainter& painter) const
 {
-    const PlotMapping& mapping = coord.mapping();
-    const QTransform device = painter.deviceTransform();
     for (int channel = 0; channel < series.size(); ++channel) {
-        const PointBuffer& points = series.at(channel);
-        if (!isShown(channel) || points.size() < 2) {
-            continue;
+        if (isShown(channel)) {
+            const QPen pen(colorOf(channel), channel == selected ? 3 : 1);
+            paintCurve(painter, series.at(channel), coord.mapping(), pen);
         }
-        const PenShape pen(channel == selected ? 3 : 1, device.m11(), device.dx(), device.dy());
-        const int first = points.firstIndex(mapping.xMin);
-        const int last = points.lastIndex(first, mapping.xMax);
-        const LineStrokes strokes = lineStrokes(points, mapping, first, last, pen);
-        const QColor color = colorOf(channel);
-        painter.setPen(QPen(color, pen.width()));
-        painter.drawLines(strokes.lines);
-        painter.setWorldTransform(device.inverted());
-        painter.setPen(QPen(color, 1));
-        painter.drawLines(strokes.uprights.lines);
-        for (const QRect& rect : strokes.uprights.fills) {
-            painter.fillRect(rect, color);
-        }
-        painter.resetTransform();
     }
 }
