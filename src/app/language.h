@@ -12,8 +12,8 @@ struct Language
     QString catalogue; ///< resource with its texts; empty for English, in which the program is written
 };
 
-/// All languages: Japanese, which is the default, English, and one for every other catalogue that was compiled in;
-/// that of the catalogue Nelvo_de_DE is chosen by "-de".
+/// All languages: Japanese, which is the default, English, and one for every other catalogue that was
+/// compiled in; that of the catalogue Nelvo_de_DE is chosen by "-de".
 const QVector<Language>& languages();
 const Language& japanese();
 const Language& english();
@@ -30,6 +30,6 @@ const Language& chooseLanguage(const QStringList& arguments);
 /// leaves the texts in English.
 bool speak(const Language& language, QTranslator& translator);
 
-/// The same for the toolkit's own dialogs, whose catalogue lies in the folder "translations" beside the program or
-/// where the toolkit keeps its catalogues. False when there is none, which leaves them in English.
+/// The same for the toolkit's own dialogs, whose catalogue lies in the folder "translations" beside the
+/// program or where the toolkit keeps its catalogues. False when there is none, which leaves them in English.
 bool speakInDialogs(const Language& language, QTranslator& translator);

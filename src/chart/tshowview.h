@@ -54,7 +54,7 @@ protected:
 
 private:
     double nowSec() const;
-    void paintLines(QPainter& painter) const;
+    void paintCurves(QPainter& painter) const;
 
     ChCoord coord; // holds the last paint's rectangles, which the mouse handling relies on
     MouseC mouse;

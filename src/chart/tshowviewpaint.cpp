@@ -8,7 +8,7 @@
 
 namespace {
 
-int whole(double length)
+int truncated(double length)
 {
     return static_cast<int>(length);
 }
@@ -17,13 +17,13 @@ int whole(double length)
 struct Layout
 {
     Layout(int w, int h)
-        : left(whole(0.1 * w))
-        , right(w - whole(0.03 * w))
-        , top(whole(0.05 * h))
-        , bottom(h - whole(0.08 * h))
-        , rightMargin(whole(0.03 * w))
-        , unitX(whole(0.02 * w))
-        , unitY(whole(0.02 * h))
+        : left(truncated(0.1 * w))
+        , right(w - truncated(0.03 * w))
+        , top(truncated(0.05 * h))
+        , bottom(h - truncated(0.08 * h))
+        , rightMargin(truncated(0.03 * w))
+        , unitX(truncated(0.02 * w))
+        , unitY(truncated(0.02 * h))
     {
     }
 
@@ -112,7 +112,7 @@ void TShowView::paintEvent(QPaintEvent*)
     painter.setClipRect(QRect(QPoint(at.left - 1, at.top - 1), QPoint(at.right, at.bottom)));
     coord.setPixelRect(at.left, at.top, at.right, at.bottom);
     coord.setDataRect(view.xMin(now), view.yMin(), view.xMax(now), view.yMax());
-    paintLines(painter);
+    paintCurves(painter);
 
     const Grid grid = gridOf(view, now);
     painter.setPen(QPen(QColor(0, 0, 0), 1));
@@ -123,7 +123,7 @@ void TShowView::paintEvent(QPaintEvent*)
     paintLabels(painter, at, grid, coord, unitNames.at(grid.unit.index));
 }
 
-void TShowView::paintLines(QPainter& painter) const
+void TShowView::paintCurves(QPainter& painter) const
 {
     for (int channel = 0; channel < series.size(); ++channel) {
         if (isShown(channel)) {

@@ -13,8 +13,6 @@
 #include <QStandardPaths>
 #include <QTextStream>
 
-#include <array>
-
 namespace {
 
 // With the file's name between them, three items of a debug line.
@@ -37,18 +35,6 @@ QFileDialog* newDialog(const QString& name, QFileDialog::AcceptMode mode)
     return dialog;
 }
 
-// Made when a dialog is first asked for and not at the start: looking at the station leaves no trace on the
-// desktop. A dialog cannot enter it before.
-void makeProgramFolderFor(const std::array<QFileDialog*, 2>& dialogs)
-{
-    if (QDir(programFolder()).exists() || !QDir().mkpath(programFolder())) {
-        return;
-    }
-    for (QFileDialog* dialog : dialogs) {
-        dialog->setDirectory(programFolder());
-    }
-}
-
 // A dialog that is open already comes to the front. The folder is the one in which the operator left it.
 void showOrRaise(QFileDialog& dialog)
 {
@@ -61,6 +47,7 @@ void showOrRaise(QFileDialog& dialog)
 
 void MBEMain::setupProgramDialogs()
 {
+    QDir().mkpath(programFolder()); // a dialog cannot enter it before
     loadDialog = newDialog(QStringLiteral("loadDialog"), QFileDialog::AcceptOpen);
     saveDialog = newDialog(QStringLiteral("saveDialog"), QFileDialog::AcceptSave);
     // Without it a name typed without ".dat" would not be offered for loading again.
@@ -71,13 +58,11 @@ void MBEMain::setupProgramDialogs()
 
 void MBEMain::APLoad()
 {
-    makeProgramFolderFor({loadDialog, saveDialog});
     showOrRaise(*loadDialog);
 }
 
 void MBEMain::APSave()
 {
-    makeProgramFolderFor({loadDialog, saveDialog});
     showOrRaise(*saveDialog);
 }
 

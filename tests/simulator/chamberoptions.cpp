@@ -70,7 +70,7 @@ private slots:
 
     void aRecordingIsNamed()
     {
-        QCOMPARE(read(words("--replay day.log")).options.replayFile, QStringLiteral("day.log"));
+        QCOMPARE(read(words("--replay day.log")).options.replayFile, "day.log"_s);
         QVERIFY(read({}).options.replayFile.isEmpty());
     }
 

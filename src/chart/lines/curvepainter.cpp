@@ -31,7 +31,7 @@ CurvePen curvePen(const QPainter& painter, const PlotMapping& mapping, double wi
     const Uprights uprights = uprightsOn(*painter.paintEngine(), device, mapping, width);
     // On a scaled display the toolkit applies the scale twice to the width of a line without length.
     const bool isScaled = device.type() == QTransform::TxScale && device.m11() == device.m22();
-    const double dotScale = uprights == Uprights::Filled && isScaled ? std::max(1.0, device.m11()) : 1.0;
+    const double dotScale = uprights == Uprights::Filled && isScaled ? device.m11() : 1.0;
     return {width, dotScale * width, uprights};
 }
 

@@ -18,7 +18,7 @@ enum class Uprights {
 struct CurvePen
 {
     double width = 1.0;
-    double dotWidth = 1.0; ///< of a line without length; if larger than `width`, uprights are Filled
+    double dotWidth = 1.0; ///< of a line without length; larger than `width` only where uprights are Filled
     Uprights uprights = Uprights::Filled;
 };
 

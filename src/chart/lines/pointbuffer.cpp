@@ -21,8 +21,10 @@ void PointBuffer::append(const TPoint& point)
     if (!followsOn(size() - 1)) {
         stretchStarts.push_back(place);
     }
-    if (size() > maximumCount) {
-        limitMode == ThinOut ? thinOut() : dropFirst();
+    if (size() > maximumCount && limitMode == ThinOut) {
+        thinOut();
+    } else if (size() > maximumCount) {
+        dropFirst();
     }
 }
 

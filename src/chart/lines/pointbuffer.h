@@ -28,8 +28,9 @@ struct ValueRange
 
 /// The history of one channel, oldest point first, limited in length. Indices run from 0 to size() - 1.
 ///
-/// An append costs the same however long the history is. Every block of points keeps its lowest and highest
-/// value (min/max envelope), so that the extremes of a long run are found without reading it.
+/// An append costs the same however long the history is, on the average over many. Every block of points
+/// keeps its lowest and highest value (min/max envelope), so that the extremes of a long run are found
+/// without reading it.
 class PointBuffer
 {
 public:
@@ -76,9 +77,8 @@ private:
     int thinTargetCount;
     Mode limitMode;
     std::deque<TPoint> points;
-    // Places count the points over the buffer's whole life, those that are gone included.
+    // Places count the points over the buffer's life, those that are gone included.
     qint64 firstPlace = 0;
-    std::deque<ValueRange>
-        blocks; // extremes of blockSize places each; the first may count dropped points too
+    std::deque<ValueRange> blocks; // of blockSize places each; the first may count dropped points too
     std::deque<qint64> stretchStarts; // places, without the first point's
 };
