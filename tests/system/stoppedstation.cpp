@@ -59,8 +59,8 @@ private slots:
 
     void aRampAndAProgramGoOn()
     {
-        QVERIFY(station->process().waitFor(
-            [](const QString&) { return fileText(recordFile).count('\n') > 1; }));
+        QVERIFY(
+            station->process().waitFor([](const QString&) { return fileText(recordFile).count('\n') > 1; }));
         const QByteArray header = "0\t0\t0\t0\t0\t0\t0\t0\t0\t0\t";
         const QByteArray end = "\t0\t0\t0\t0\t0\t0\t2\t---NoGroup---\t1\n";
         putFile("steps.dat"_s, header + '1' + end + header + '0' + end + header + '1' + end);
