@@ -55,8 +55,6 @@ signals:
     void received(const QByteArray& bytes);
     /// The client is gone, of its own will or by a fault.
     void clientLeft();
-    /// Bytes came from the client; they have not been acted on yet.
-    void received(const QByteArray& bytes);
     /// Bytes are on their way to the client.
     void sent(const QByteArray& bytes);
 

@@ -48,7 +48,7 @@ class AdapterFaultsTest : public OpenStationTest
     // It is told, and the station lives on without.
     void expectALostLink()
     {
-        QTRY_VERIFY(fileText("NelvoJournal.log"_s).contains("\tlost\t"));
+        QTRY_VERIFY(fileText(journalFile).contains("\tlost\t"));
         station->tick(1000);
         station->click("AllCloseB"_s);
         expectAnAnsweredClick();
@@ -58,7 +58,7 @@ class AdapterFaultsTest : public OpenStationTest
 private slots:
     void init()
     {
-        QFile::remove("NelvoJournal.log"_s);
+        QFile::remove(journalFile);
         journalEvents();
         OpenStationTest::init();
     }

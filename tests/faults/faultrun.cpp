@@ -12,8 +12,6 @@ using Chamber::FaultKind;
 
 namespace {
 
-const QString journalFile = "NelvoJournal.log"_s;
-
 // A reading that is this near to a cell's temperature is that cell's.
 constexpr double nearDegC = 5.0;
 

@@ -21,8 +21,6 @@ constexpr qint64 hourMs = 600000; // the sanitizers take their time
 #else
 constexpr qint64 hourMs = 3600000;
 #endif
-const QString journalFile = "NelvoJournal.log"_s;
-
 class Wiretap : public DrivenWatcher
 {
 public:

@@ -17,8 +17,6 @@ using namespace TestText;
 
 namespace {
 
-const QString journalFile = "NelvoJournal.log"_s;
-
 Station& station()
 {
     static Station* const one = [] {

@@ -58,7 +58,7 @@ private slots:
     void theOpeningHasArrivedWhenTheWindowIsOpen()
     {
         Recorder seen;
-        DrivenChamber station({}, seen);
+        DrivenChamber station(Chamber::Options{}, seen);
         station.open();
         QCOMPARE(seen.sent, Wire::opening);
         QCOMPARE(seen.events.last(), QByteArray("shutters xxxxxxx"));
@@ -67,7 +67,7 @@ private slots:
     void aSecondHasAHundredTicks()
     {
         Recorder seen;
-        DrivenChamber station({}, seen);
+        DrivenChamber station(Chamber::Options{}, seen);
         station.open();
         const qint64 before = DrivenClock::nowMs();
         station.run(1000);
@@ -128,7 +128,7 @@ private slots:
     void aWindowThatClosesHasLeftTheChamber()
     {
         Recorder seen;
-        DrivenChamber station({}, seen);
+        DrivenChamber station(Chamber::Options{}, seen);
         station.open();
         station.close();
         QCOMPARE(seen.linksGone, 1);

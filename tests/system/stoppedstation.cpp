@@ -18,7 +18,7 @@ constexpr qint64 stoppedMs = 1000;
 
 QString journal()
 {
-    return QString::fromUtf8(fileText("NelvoJournal.log"_s));
+    return QString::fromUtf8(fileText(journalFile));
 }
 
 } // namespace
@@ -54,7 +54,7 @@ private slots:
         chamber.reset();
         QFile::remove(recordFile);
         QFile::remove(stateFile);
-        QFile::remove("NelvoJournal.log"_s);
+        QFile::remove(journalFile);
     }
 
     void aRampAndAProgramGoOn()
