@@ -1,0 +1,143 @@
+#include "growthcheck/app/session.h"
+
+#include "growthcheck/check/check.h"
+#include "growthcheck/check/words.h"
+#include "growthcheck/output/output.h"
+#include "growthcheck/rehearsal/starttemperatures.h"
+
+namespace GrowthCheck {
+
+namespace {
+
+QString cannotRead(const QString& fileName, const QString& why)
+{
+    return Words::tr("%1 cannot be read: %2").arg(fileName, why);
+}
+
+class Session
+{
+public:
+    Session(const Options& asked, const Outlets& givenOutlets)
+        : options(asked)
+        , outlets(givenOutlets)
+    {
+    }
+
+    ExitStatus check()
+    {
+        Assumptions assumptions;
+        std::optional<Rates> rates;
+        if (!readStart(assumptions) || !readRates(rates)) {
+            return CannotRead;
+        }
+        for (const QString& fileName : options.programs) {
+            const std::optional<LoadedProgram> program = loadProgram(fileName);
+            if (program) {
+                programs.append(checkProgram(*program, assumptions, rates));
+            } else {
+                outlets.complain(cannotRead(fileName,
+                    Words::tr("it is missing, no plain file, larger than 16 MiB, or not to be opened")));
+            }
+        }
+        write();
+        return status();
+    }
+
+private:
+    bool readStart(Assumptions& assumptions)
+    {
+        assumptions = options.assumptions;
+        if (options.startJournal.isEmpty()) {
+            return true;
+        }
+        const QString wrong = startFromJournal(options.startJournal, assumptions);
+        // What is told by hand is told against the journal.
+        for (size_t channel = 0; channel < assumptions.starts.size(); ++channel) {
+            const Assumptions::Start& told = options.assumptions.starts.at(channel);
+            if (told.kind != Assumptions::Start::Kind::NotTold) {
+                assumptions.starts.at(channel) = told;
+            }
+        }
+        return isRead(options.startJournal, wrong);
+    }
+
+    bool readRates(std::optional<Rates>& rates)
+    {
+        if (options.rates.isEmpty()) {
+            return true;
+        }
+        rates.emplace();
+        return isRead(options.rates, GrowthCheck::readRates(options.rates, *rates));
+    }
+
+    bool isRead(const QString& fileName, const QString& wrong) const
+    {
+        if (!wrong.isEmpty()) {
+            outlets.complain(cannotRead(fileName, wrong));
+        }
+        return wrong.isEmpty();
+    }
+
+    void write() const
+    {
+        if (options.output == Options::Output::Json) {
+            writeJson(programs, outlets.out);
+            return;
+        }
+        if (options.output == Options::Output::Csv) {
+            writeCsvHead(outlets.out);
+        }
+        for (int i = 0; i < programs.size(); ++i) {
+            if (i > 0 && options.output == Options::Output::Text) {
+                outlets.out("\n");
+            }
+            writeOne(programs[i]);
+        }
+    }
+
+    void writeOne(const CheckedProgram& checked) const
+    {
+        switch (options.output) {
+        case Options::Output::Text:
+            writeText(checked, outlets.out);
+            break;
+        case Options::Output::Csv:
+            writeCsv(checked, outlets.out);
+            break;
+        case Options::Output::Vcd:
+            writeVcd(checked, outlets.out);
+            break;
+        case Options::Output::Wire:
+            writeWire(checked, outlets.out);
+            break;
+        case Options::Output::Json:
+            break;
+        }
+    }
+
+    ExitStatus status() const
+    {
+        if (programs.size() < options.programs.size()) {
+            return CannotRead;
+        }
+        for (const CheckedProgram& checked : programs) {
+            if (worst(checked.findings) >= Severity::Warning) {
+                return Found;
+            }
+        }
+        return Clean;
+    }
+
+    const Options& options;
+    const Outlets& outlets;
+    QVector<CheckedProgram> programs;
+};
+
+} // namespace
+
+ExitStatus run(const Options& options, const Outlets& outlets)
+{
+    return Session(options, outlets).check();
+}
+
+} // namespace GrowthCheck
