@@ -8,7 +8,7 @@ fail() { printf 'FAILED: %s\n' "$*" >&2; exit 1; }
 
 build_packages=(g++ cmake ninja-build ccache qtbase5-dev qttools5-dev qttools5-dev-tools)
 # shellcheck disable=SC2034 # used by the scripts that read this one
-window_packages=(fonts-noto-cjk libfaketime)
+window_packages=(fonts-noto-cjk libfaketime qttranslations5-l10n)
 demo_packages=(fonts-noto-cjk xvfb xdotool openbox)
 check_packages=(clang-format clang-tidy)
 

@@ -23,14 +23,15 @@ QByteArray place(const QHostAddress& address, quint16 port)
 
 } // namespace
 
-ChamberServer::ChamberServer(const Options& chosen, EventSink sink)
+ChamberServer::ChamberServer(const Options& chosen, EventSink sink, Clock driven)
     : options(chosen)
     , log(std::move(sink))
+    , clock(driven ? std::move(driven) : [this] { return steady.elapsed(); })
     , rack(chosen.seed)
     , faults(chosen.faultRates, chosen.seed)
     , jitter(chosen.seed, jitterStream)
 {
-    clock.start();
+    steady.start();
     dueTimer.setSingleShot(true);
     dueTimer.setTimerType(Qt::PreciseTimer);
     connect(&dueTimer, &QTimer::timeout, this, &ChamberServer::flush);
@@ -126,7 +127,7 @@ void ChamberServer::take(const AdapterLine& line)
 void ChamberServer::deliver(const Rack::Outcome& outcome)
 {
     if (!outcome.fromInstrument) {
-        queue.push(outcome.reply + "\r\n", clock.elapsed() + latencyMs());
+        queue.push(outcome.reply + "\r\n", clock() + latencyMs());
         flush();
         return;
     }
@@ -150,7 +151,7 @@ void ChamberServer::obey(const Delivery& delivery)
         queue.clear();
         return;
     }
-    const qint64 arrivalMs = clock.elapsed() + latencyMs();
+    const qint64 arrivalMs = clock() + latencyMs();
     for (int i = 0; i < delivery.pieces.size(); ++i) {
         const Delivery::Piece& piece = delivery.pieces[i];
         const bool waits = delivery.waitsForNext && i == delivery.pieces.size() - 1;
@@ -168,12 +169,12 @@ void ChamberServer::flush()
     if (client == nullptr) {
         return;
     }
-    const QByteArray due = queue.takeDue(clock.elapsed());
+    const QByteArray due = queue.takeDue(clock());
     if (!due.isEmpty()) {
         client->write(due);
     }
     if (!queue.isEmpty()) {
-        dueTimer.start(static_cast<int>(qMax<qint64>(0, queue.nextDueMs() - clock.elapsed())));
+        dueTimer.start(static_cast<int>(qMax<qint64>(0, queue.nextDueMs() - clock())));
     }
 }
 
@@ -198,7 +199,7 @@ int ChamberServer::latencyMs()
 
 double ChamberServer::modelSec() const
 {
-    return static_cast<double>(clock.nsecsElapsed()) * 1e-9 * options.timeScale;
+    return static_cast<double>(clock()) * 1e-3 * options.timeScale;
 }
 
 } // namespace Chamber

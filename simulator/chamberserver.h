@@ -30,12 +30,20 @@ public:
     /// Takes one event, for example "shutters oxxoxxx".
     using EventSink = std::function<void(const QByteArray& event)>;
 
-    ChamberServer(const Options& chosen, EventSink sink);
+    /// Gives a time in ms that never runs back.
+    using Clock = std::function<qint64()>;
+
+    /// Lives by the machine's steady clock, or by `driven` where there is one; then replies leave when tick()
+    /// is called and their time has come.
+    ChamberServer(const Options& chosen, EventSink sink, Clock driven = nullptr);
     ~ChamberServer() override;
 
     /// Listens where the options say. False when that cannot be, errorString() then tells why.
     bool listen();
     QString errorString() const { return server.errorString(); }
+
+    /// With a driven clock: sends what is due.
+    void tick() { flush(); }
 
     /// Where it listens; the port that was taken when the options left it open.
     quint16 port() const { return server.serverPort(); }
@@ -61,12 +69,13 @@ private:
 
     const Options options;
     const EventSink log;
+    QElapsedTimer steady;
+    const Clock clock; ///< ms
     Rack rack;
     Faults faults;
     RandomSource jitter;
     AdapterParser parser;
     SendQueue queue;
-    QElapsedTimer clock;
     QTimer dueTimer;
     QTcpServer server;
     QTcpSocket* client = nullptr; ///< owned by the server; null while nobody is there

@@ -1,5 +1,6 @@
 #include "simulator/chamberserver.h"
 #include "simulator/options.h"
+#include "simulator/replayserver.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -7,12 +8,16 @@
 
 #include <csignal>
 #include <cstdio>
+#include <functional>
 
 namespace {
 
 constexpr int statusCannotListen = 1;
 constexpr int statusBadOption = 2;
+constexpr int statusDiffers = 3;
 constexpr int stopPollMs = 50;
+
+using Log = std::function<void(const QByteArray& event)>;
 
 volatile std::sig_atomic_t stopAsked = 0;
 
@@ -33,6 +38,56 @@ void printEvent(qint64 elapsedMs, const QByteArray& event)
         = QByteArray::number(static_cast<double>(elapsedMs) / 1000.0, 'f', 3) + ' ' + event + '\n';
     std::fwrite(line.constData(), 1, static_cast<size_t>(line.size()), stdout);
     std::fflush(stdout);
+}
+
+// A signal handler may do next to nothing, so it leaves a note that is looked at now and then.
+void endWhenAsked(QTimer& poll)
+{
+    QObject::connect(&poll, &QTimer::timeout, &poll, [] {
+        if (stopAsked != 0) {
+            QCoreApplication::quit();
+        }
+    });
+    poll.start(stopPollMs);
+}
+
+int cannotListen(const Chamber::Options& options, const QString& why)
+{
+    complain(QStringLiteral("cannot listen on %1 port %2: %3")
+                 .arg(options.listenAddress.toString())
+                 .arg(options.port)
+                 .arg(why));
+    return statusCannotListen;
+}
+
+int playChamber(const Chamber::Options& options, const Log& log)
+{
+    Chamber::ChamberServer server(options, log);
+    if (!server.listen()) {
+        return cannotListen(options, server.errorString());
+    }
+    if (options.once) {
+        QObject::connect(&server, &Chamber::ChamberServer::clientLeft, qApp, &QCoreApplication::quit);
+    }
+    return QCoreApplication::exec();
+}
+
+int playRecording(const Chamber::Options& options, const Log& log)
+{
+    QString error;
+    const std::optional<Chamber::Recording> recording = Chamber::readRecording(options.replayFile, error);
+    if (!recording) {
+        complain(error);
+        return statusBadOption;
+    }
+    Chamber::ReplayServer server(*recording, options, log);
+    if (!server.listen()) {
+        return cannotListen(options, server.errorString());
+    }
+    QObject::connect(
+        &server, &Chamber::ReplayServer::differed, qApp, [] { QCoreApplication::exit(statusDiffers); });
+    QObject::connect(&server, &Chamber::ReplayServer::clientLeft, qApp, &QCoreApplication::quit);
+    return QCoreApplication::exec();
 }
 
 } // namespace
@@ -57,33 +112,14 @@ int main(int argc, char* argv[])
 
     std::signal(SIGTERM, &askToStop);
     std::signal(SIGINT, &askToStop);
+    QTimer stopPoll;
+    endWhenAsked(stopPoll);
 
     const Chamber::Options& options = commandLine.options;
-    bool isQuiet = false; // where it listens is told in any case
-    Chamber::ChamberServer server(options, [&](const QByteArray& event) {
-        if (!isQuiet) {
+    const Log log = [&](const QByteArray& event) {
+        if (!options.quiet || event.startsWith("listening ")) {
             printEvent(sinceStart.elapsed(), event);
         }
-    });
-    if (!server.listen()) {
-        complain(QStringLiteral("cannot listen on %1 port %2: %3")
-                     .arg(options.listenAddress.toString())
-                     .arg(options.port)
-                     .arg(server.errorString()));
-        return statusCannotListen;
-    }
-    isQuiet = options.quiet;
-    if (options.once) {
-        QObject::connect(&server, &Chamber::ChamberServer::clientLeft, &application, &QCoreApplication::quit);
-    }
-
-    // A signal handler may do next to nothing, so it leaves a note that is looked at now and then.
-    QTimer stopPoll;
-    QObject::connect(&stopPoll, &QTimer::timeout, &application, [] {
-        if (stopAsked != 0) {
-            QCoreApplication::quit();
-        }
-    });
-    stopPoll.start(stopPollMs);
-    return QCoreApplication::exec();
+    };
+    return options.replayFile.isEmpty() ? playChamber(options, log) : playRecording(options, log);
 }

@@ -16,6 +16,7 @@ const QString seedName = QStringLiteral("seed");
 const QString timeScaleName = QStringLiteral("time-scale");
 const QString latencyName = QStringLiteral("latency");
 const QString faultOptionName = QStringLiteral("fault");
+const QString replayName = QStringLiteral("replay");
 const QString quietName = QStringLiteral("quiet");
 const QString onceName = QStringLiteral("once");
 const QString helpName = QStringLiteral("help");
@@ -53,6 +54,11 @@ void defineOptions(QCommandLineParser& parser)
             QStringLiteral("How long every reply takes in ms, give or take JITTER (5:2; 0 is at once)."),
             QStringLiteral("ms[:jitter]")},
         {faultOptionName, QString::fromLatin1(faultHelp), QStringLiteral("kind=rate")},
+        {replayName,
+            QStringLiteral(
+                "Answers as the station's journal FILE has it (written with NELVO_JOURNAL=--wire), and ends\n"
+                "with the first command that differs; --time-scale makes it faster."),
+            QStringLiteral("file")},
         {quietName, QStringLiteral("Logs nothing but where it listens.")},
         {onceName, QStringLiteral("Ends when the first client has left.")},
         {QStringList({QStringLiteral("h"), helpName}), QStringLiteral("Shows this and ends.")},
@@ -111,6 +117,12 @@ QString readLatency(const QString& value, Options& options)
     return {};
 }
 
+QString readReplay(const QString& value, Options& options)
+{
+    options.replayFile = value;
+    return value.isEmpty() ? wrongValue(replayName, value, QStringLiteral("a file")) : QString();
+}
+
 QString readFaults(const QStringList& values, Options& options)
 {
     std::array<bool, faultKindCount> given = {};
@@ -147,6 +159,7 @@ QString readValues(const QCommandLineParser& parser, Options& options)
         {seedName, &readSeed},
         {timeScaleName, &readTimeScale},
         {latencyName, &readLatency},
+        {replayName, &readReplay},
     };
     for (const auto& reader : readers) {
         const QStringList values = parser.values(reader.first);
@@ -160,6 +173,10 @@ QString readValues(const QCommandLineParser& parser, Options& options)
         if (!error.isEmpty()) {
             return error;
         }
+    }
+    const bool hasFaults = parser.isSet(faultOptionName);
+    if (hasFaults && !options.replayFile.isEmpty()) {
+        return QStringLiteral("--fault with --replay: a recording has the faults that it has");
     }
     return readFaults(parser.values(faultOptionName), options);
 }

@@ -1,27 +1,8 @@
 #include "simulator/rack.h"
 
+#include "simulator/printable.h"
+
 namespace Chamber {
-
-namespace {
-
-constexpr int longestShown = 60;
-
-/// A client's bytes for a log line: one line, whatever they are.
-QByteArray printable(const QByteArray& bytes)
-{
-    QByteArray text;
-    for (const char byte : bytes.left(longestShown)) {
-        const auto code = static_cast<uchar>(byte);
-        if (code < 0x20 || code >= 0x7F) {
-            text += '<' + QByteArray(1, byte).toHex().toUpper() + '>';
-        } else {
-            text += byte;
-        }
-    }
-    return bytes.size() > longestShown ? text + "..." : text;
-}
-
-} // namespace
 
 Rack::Rack(quint64 seed)
     : controllers(seed)

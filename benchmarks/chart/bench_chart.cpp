@@ -3,10 +3,10 @@
 // what has as many device pixels there is ours_1250x700, ours_1500x840 and ours_2000x1120 of the unscaled
 // run.
 
-#include "figures.h"
-#include "peers.h"
-#include "scaledrun.h"
-#include "subjects.h"
+#include "benchmarks/chart/peers.h"
+#include "benchmarks/chart/runtimes.h"
+#include "benchmarks/chart/scaledrun.h"
+#include "benchmarks/chart/subjects.h"
 
 #include "chart/support/chartdata.h"
 #include "chart/support/hand.h"
@@ -266,11 +266,12 @@ int main(int argc, char* argv[])
     addMouse();
     addDrags();
     addAppend();
-    Figures figures;
-    benchmark::RunSpecifiedBenchmarks(&figures);
+    RunTimes times;
+    benchmark::RunSpecifiedBenchmarks(&times);
     if (!isScaledRun()) {
-        figures.printTargets(memoryMb);
-        printScaledRuns(figures);
+        const Figures figures("chart-history");
+        printTargets(figures, times, memoryMb);
+        printScaledRuns(figures, times);
     }
     return 0;
 }

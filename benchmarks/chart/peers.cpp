@@ -1,7 +1,7 @@
 // The peers' own headers use the toolkit's foreach.
 #undef QT_NO_FOREACH
 
-#include "peers.h"
+#include "benchmarks/chart/peers.h"
 
 #include <QPainter>
 #include <QPixmap>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "subjects.h"
+#include "benchmarks/chart/subjects.h"
 
 /// Whether the peer was there when the program was built.
 bool hasQCustomPlot();

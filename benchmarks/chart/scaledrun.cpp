@@ -1,4 +1,4 @@
-#include "scaledrun.h"
+#include "benchmarks/chart/scaledrun.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -9,7 +9,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include <cstdio>
+#include <algorithm>
 
 namespace {
 
@@ -60,7 +60,7 @@ bool isScaledRun()
     return qEnvironmentVariableIsSet(mark);
 }
 
-void printScaledRuns(const Figures& unscaled)
+void printScaledRuns(const Figures& figures, const RunTimes& unscaled)
 {
     const Scale scales[] = {{"1.25", "1250x700"}, {"1.5", "1500x840"}, {"2", "2000x1120"}};
     for (const Scale& scale : scales) {
@@ -70,19 +70,21 @@ void printScaledRuns(const Figures& unscaled)
         }
         const QMap<QString, double> times = run(scale);
         if (times.isEmpty()) {
-            std::printf("  scale %s: no results\n", scale.factor);
-            continue;
+            fail("no results on a scaled display");
         }
-        std::printf(
-            "\nOn a display scaled by %s, against an unscaled widget of %s:\n", scale.factor, scale.sameSize);
+        const auto figure = [&scale](const char* what) {
+            return std::string("display scaled by ") + scale.factor + ": " + what;
+        };
         const double waveform = times.value(QStringLiteral("waveform/ours"));
         const double noise = times.value(QStringLiteral("noise/ours"));
-        Figures::row("waveform: scaled / unscaled", waveform / unscaled.ms("waveform" + same), 2.0);
-        Figures::row("noise: scaled / unscaled", noise / unscaled.ms("noise" + same), 2.0);
+        figures.atMost(figure("waveform, scaled / unscaled").c_str(), 2.0,
+            waveform / unscaled.ms("waveform" + same), "");
+        figures.atMost(
+            figure("noise, scaled / unscaled").c_str(), 2.0, noise / unscaled.ms("noise" + same), "");
         double slowest = 0.0;
         for (auto it = times.begin(); it != times.end(); ++it) {
             slowest = it.key().startsWith(QLatin1String("drag/")) ? std::max(slowest, it.value()) : slowest;
         }
-        Figures::row("slowest kind of drag step over full histories, ms", slowest, frameMs);
+        figures.atMost(figure("slowest kind of drag step").c_str(), frameMs, slowest, "ms");
     }
 }

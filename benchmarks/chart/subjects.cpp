@@ -1,4 +1,4 @@
-#include "subjects.h"
+#include "benchmarks/chart/subjects.h"
 
 #include "chart/support/chartdata.h"
 #include "chart/support/hand.h"

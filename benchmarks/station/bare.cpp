@@ -1,9 +1,9 @@
 // The yardstick of station-start: a window of the same widgets in the same layouts, without texts, styles and
 // logic. Usage: station-start-bare FILE, the widget tree that the station's own run wrote.
 
-#include "station/firstpaint.h"
-#include "station/widgettree.h"
-#include "support/benchapp.h"
+#include "benchmarks/station/firstpaint.h"
+#include "benchmarks/station/widgettree.h"
+#include "benchmarks/support/figures.h"
 #include "support/steadyclock.h"
 
 #include <QApplication>

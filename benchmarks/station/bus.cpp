@@ -2,26 +2,24 @@
 // that awaits a reply.
 
 #include "app/mbemain.h"
-#include "support/benchapp.h"
-#include "support/figures.h"
-#include "support/peer.h"
+#include "benchmarks/support/benchapp.h"
+#include "benchmarks/support/figures.h"
+#include "benchmarks/support/peer.h"
+#include "support/panel.h"
 #include "support/steadyclock.h"
 
 #include <QtTest>
 
-#include <algorithm>
-#include <iterator>
 #include <memory>
 #include <random>
 
 namespace {
 
 constexpr double msPerTick = 10.0;
-constexpr int channels = 9;
 // Request, value shown, ramp step, next channel: with the reply there before the tick after the request, a
 // channel takes one tick for each.
 constexpr int ticksPerChannel = 4;
-constexpr double roundMs = channels * ticksPerChannel * msPerTick;
+constexpr double roundMs = Channels::count * ticksPerChannel * msPerTick;
 
 constexpr int rounds = 25;
 constexpr int freeClicks = 300;
@@ -41,14 +39,6 @@ double ms(qint64 ns)
     return static_cast<double>(ns) / 1e6;
 }
 
-std::vector<WireEvent> only(WireEvent::Kind kind, const std::vector<WireEvent>& events)
-{
-    std::vector<WireEvent> chosen;
-    std::copy_if(events.begin(), events.end(), std::back_inserter(chosen),
-        [kind](const WireEvent& event) { return event.kind == kind; });
-    return chosen;
-}
-
 // Clicks one commanded-state button after the other, as the window system delivers a click, and gives the
 // times at which the buttons were let go: that is what clicks them.
 std::vector<qint64> clickShutters(MBEMain& window, int clicks, int shortestGapMs, int longestGapMs)
@@ -57,7 +47,7 @@ std::vector<qint64> clickShutters(MBEMain& window, int clicks, int shortestGapMs
     std::uniform_int_distribution<int> gapMs(shortestGapMs, longestGapMs);
     std::vector<qint64> releases;
     for (int i = 0; i < clicks; ++i) {
-        const auto* button = window.findChild<QToolButton*>(QStringLiteral("CS0%1").arg(i % 7 + 1));
+        const auto* button = window.findChild<QToolButton*>(cell("CS", i % Channels::shutterCount));
         const QPoint middle = button->mapTo(&window, button->rect().center());
         QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, middle);
         letRun(gapMs(chance));
@@ -71,8 +61,7 @@ std::vector<qint64> clickShutters(MBEMain& window, int clicks, int shortestGapMs
 void stopPolling(MBEMain& window)
 {
     auto* polling = window.findChild<QRadioButton*>(QStringLiteral("TMPCtrlActive"));
-    polling->setAutoExclusive(false); // it has no partner to be unchecked by
-    polling->setChecked(false);
+    QTest::keyClick(polling, Qt::Key_Space); // it has no partner to be unchecked by
     letRun(100); // a reply may be on its way
 }
 

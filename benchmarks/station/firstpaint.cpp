@@ -1,4 +1,4 @@
-#include "station/firstpaint.h"
+#include "benchmarks/station/firstpaint.h"
 
 #include "support/steadyclock.h"
 

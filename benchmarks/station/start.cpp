@@ -3,18 +3,16 @@
 
 #include "app/language.h"
 #include "app/mbemain.h"
-#include "station/firstpaint.h"
-#include "station/widgettree.h"
-#include "support/benchapp.h"
-#include "support/figures.h"
-#include "support/peer.h"
+#include "benchmarks/station/firstpaint.h"
+#include "benchmarks/station/widgettree.h"
+#include "benchmarks/support/benchapp.h"
+#include "benchmarks/support/figures.h"
+#include "support/scriptedadapter.h"
 #include "support/steadyclock.h"
 
 #include <QApplication>
 #include <QFile>
-#include <QHostAddress>
 #include <QProcess>
-#include <QTcpServer>
 #include <QTranslator>
 
 #include <cstdio>
@@ -105,11 +103,8 @@ int total(const QMap<QByteArray, int>& counts)
 int measure()
 {
     // Nobody has to answer: the station connects and goes on.
-    QTcpServer adapter;
-    if (!adapter.listen(QHostAddress(ownAddress()), 1234)) {
-        fail("cannot listen on an address of its own");
-    }
-    qputenv("NELVO_ADAPTER", ownAddress().toLatin1());
+    const ScriptedAdapter adapter;
+    qputenv("NELVO_ADAPTER", adapter.address().toLatin1());
 
     const QString station = QCoreApplication::applicationFilePath();
     const QString bare = QCoreApplication::applicationDirPath() + QStringLiteral("/station-start-bare");

@@ -1,4 +1,4 @@
-#include "station/widgettree.h"
+#include "benchmarks/station/widgettree.h"
 
 #include <QApplication>
 #include <QGridLayout>

@@ -1,39 +1,32 @@
-#include "support/benchapp.h"
+#include "benchmarks/support/benchapp.h"
 
-#include <QApplication>
-#include <QDir>
+#include "benchmarks/support/figures.h"
+#include "support/testmain.h"
+
+#include <QCoreApplication>
 #include <QEventLoop>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <cstdio>
-#include <cstdlib>
-
-void choosePlatform()
-{
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-}
 
 int runBenchmark(int argc, char* argv[], const std::function<int()>& run)
 {
-    choosePlatform();
     qputenv("QT_FORCE_STDERR_LOGGING", "1");
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    QApplication application(argc, argv);
+    return runIsolated(argc, argv, [&run] {
+        if (std::freopen("station.log", "w", stderr) == nullptr) {
+            fail("the debug lines cannot be put aside");
+        }
+        return run();
+    });
+}
 
-    const QString before = QDir::currentPath();
-    QTemporaryDir directory;
-    if (!directory.isValid() || !QDir::setCurrent(directory.path())) {
-        fail("no temporary working directory");
+void settle()
+{
+    // Some events are posted by others' handling, a layout's by the polishing before it.
+    for (int i = 0; i < 10; ++i) {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
     }
-    if (std::freopen("station.log", "w", stderr) == nullptr) {
-        fail("the debug lines cannot be put aside");
-    }
-    const int result = run();
-    QDir::setCurrent(before);
-    return result;
 }
 
 void letRun(int ms)
@@ -41,11 +34,4 @@ void letRun(int ms)
     QEventLoop loop;
     QTimer::singleShot(ms, Qt::PreciseTimer, &loop, &QEventLoop::quit);
     loop.exec();
-}
-
-void fail(const char* what)
-{
-    std::printf("broken: %s\n", what);
-    std::fflush(stdout);
-    std::exit(1);
 }

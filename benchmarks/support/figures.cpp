@@ -1,24 +1,35 @@
-#include "support/figures.h"
+#include "benchmarks/support/figures.h"
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
+#include <string>
 
 Figures::Figures(const char* program)
 {
-    std::printf("%s\n  %-52s %12s %14s   %s\n", program, "figure", "target", "measured", "verdict");
+    std::printf("\n| %-56s | %12s | %14s | %-7s |\n", program, "target", "measured", "verdict");
+    std::printf("|:%s|%s:|%s:|:%s|\n", std::string(57, '-').c_str(), std::string(13, '-').c_str(),
+        std::string(15, '-').c_str(), std::string(8, '-').c_str());
 }
 
 void Figures::atMost(const char* figure, double limit, double measured, const char* unit) const
 {
-    std::printf("  %-52s <= %9.2f %9.3f %-4s   %s\n", figure, limit, measured, unit,
+    std::printf("| %-56s | <= %9.2f | %9.3f %-4s | %-7s |\n", figure, limit, measured, unit,
         measured <= limit ? "ok" : "MISSED");
     std::fflush(stdout);
 }
 
 void Figures::show(const char* figure, double measured, const char* unit) const
 {
-    std::printf("  %-52s %12s %9.3f %-4s\n", figure, "", measured, unit);
+    std::printf("| %-56s | %12s | %9.3f %-4s | %-7s |\n", figure, "", measured, unit, "");
     std::fflush(stdout);
+}
+
+void fail(const char* what)
+{
+    std::printf("broken: %s\n", what);
+    std::fflush(stdout);
+    std::exit(1);
 }
 
 double median(std::vector<double> values)

@@ -1,12 +1,14 @@
-#include "support/peer.h"
+#include "benchmarks/support/peer.h"
 
-#include "support/benchapp.h"
+#include "benchmarks/support/figures.h"
 
 #include <QCoreApplication>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <iterator>
 
 namespace {
 
@@ -18,12 +20,12 @@ constexpr int longestWaitForClientMs = 30000;
 
 Peer::Peer(int delayMs)
 {
-    const QString address = ownAddress();
+    const QString address = ownLoopbackAddress();
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start(QCoreApplication::applicationFilePath(),
         {QLatin1String(peerSwitch), address, QString::number(delayMs)});
     if (!process.waitForReadyRead(patienceMs) || process.readLine() != "listening\n") {
-        fail("the replying peer did not start");
+        fail("the answering peer did not start");
     }
     qputenv("NELVO_ADAPTER", address.toLatin1());
 }
@@ -37,13 +39,13 @@ Peer::~Peer()
 std::vector<WireEvent> Peer::finish()
 {
     if (!process.waitForFinished(patienceMs) || process.exitCode() != 0) {
-        fail("the replying peer did not end well");
+        fail("the answering peer did not end well");
     }
     std::vector<WireEvent> events;
     while (process.canReadLine()) {
         const QList<QByteArray> words = process.readLine().simplified().split(' ');
         if (words.size() != 3) {
-            fail("the replying peer's report cannot be read");
+            fail("the answering peer's report cannot be read");
         }
         events.push_back(
             {static_cast<WireEvent::Kind>(words[0].toInt()), words[1].toLongLong(), words[2].toInt()});
@@ -51,13 +53,12 @@ std::vector<WireEvent> Peer::finish()
     return events;
 }
 
-QString ownAddress()
+std::vector<WireEvent> only(WireEvent::Kind kind, const std::vector<WireEvent>& events)
 {
-    const qint64 pid = QCoreApplication::applicationPid();
-    return QStringLiteral("127.%1.%2.%3")
-        .arg(80 + ((pid >> 16) & 0x3F))
-        .arg((pid >> 8) & 0xFF)
-        .arg(pid & 0xFF);
+    std::vector<WireEvent> chosen;
+    std::copy_if(events.begin(), events.end(), std::back_inserter(chosen),
+        [kind](const WireEvent& event) { return event.kind == kind; });
+    return chosen;
 }
 
 bool isPeer(int argc, char* argv[])
@@ -69,14 +70,11 @@ int peerMain(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    ReplyingAdapter adapter(arguments[3].toInt());
-    if (!adapter.listen(arguments[2])) {
-        return 1;
-    }
+    const AnsweringAdapter adapter(arguments[3].toInt(), arguments[2]);
     std::puts("listening");
     std::fflush(stdout);
 
-    QObject::connect(&adapter, &ReplyingAdapter::clientLeft, &application, &QCoreApplication::quit);
+    QObject::connect(&adapter, &AnsweringAdapter::clientLeft, &application, &QCoreApplication::quit);
     QTimer::singleShot(longestWaitForClientMs, &application, [&adapter] {
         if (!adapter.hasClient()) {
             QCoreApplication::exit(1);

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "support/replyingadapter.h"
+#include "support/answeringadapter.h"
 
 #include <QProcess>
 
-/// A ReplyingAdapter in a process of its own, so that its work is not counted as the station's: the running
+/// An AnsweringAdapter in a process of its own, so that its work is not counted as the station's: the running
 /// program starts itself again with a switch (see peerMain). It ends when its client leaves, or when nobody
 /// has come for half a minute.
 class Peer
@@ -24,8 +24,8 @@ private:
     QProcess process;
 };
 
-/// A loopback address of this process alone (127.x.y.z): the adapter's port is always the same.
-QString ownAddress();
+/// Those of `events` that are of that kind, in order.
+std::vector<WireEvent> only(WireEvent::Kind kind, const std::vector<WireEvent>& events);
 
 /// True when the arguments ask for the peer instead of the benchmark; the main function then gives way to
 /// peerMain().

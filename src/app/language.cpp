@@ -1,6 +1,8 @@
 #include "app/language.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QLibraryInfo>
 #include <QTranslator>
 
 #include <algorithm>
@@ -12,12 +14,31 @@ static void keepCatalogue()
     Q_INIT_RESOURCE(translations);
 }
 
-const QVector<Language>& languages()
+namespace {
+
+QVector<Language> findLanguages()
 {
-    static const QVector<Language> list = {
+    keepCatalogue();
+    QVector<Language> found = {
         {QStringLiteral("-j"), QStringLiteral(":Nelvo_ja_JP")},
         {QStringLiteral("-e"), QString()},
     };
+    const QStringList catalogues = QDir(QStringLiteral(":/")).entryList({QStringLiteral("Nelvo_*.qm")});
+    for (const QString& name : catalogues) {
+        const QString catalogue = QLatin1Char(':') + name.chopped(3);
+        if (catalogue != found.first().catalogue) {
+            const QString code = catalogue.section(QLatin1Char('_'), 1, 1);
+            found.append({QLatin1Char('-') + code, catalogue});
+        }
+    }
+    return found;
+}
+
+} // namespace
+
+const QVector<Language>& languages()
+{
+    static const QVector<Language> list = findLanguages();
     return list;
 }
 
@@ -55,8 +76,17 @@ bool speak(const Language& language, QTranslator& translator)
     if (language.catalogue.isEmpty()) {
         return false;
     }
-    keepCatalogue();
     // The directory plays no part: the catalogue's name is a resource's.
     return translator.load(language.catalogue, QCoreApplication::applicationDirPath())
         && QCoreApplication::installTranslator(&translator);
+}
+
+bool speakInDialogs(const Language& language, QTranslator& translator)
+{
+    const QString name = QStringLiteral("qtbase_") + language.catalogue.section(QLatin1Char('_'), 1, 1);
+    const QString beside = QCoreApplication::applicationDirPath() + QStringLiteral("/translations");
+    const bool isLoaded = !language.catalogue.isEmpty()
+        && (translator.load(name, beside)
+            || translator.load(name, QLibraryInfo::location(QLibraryInfo::TranslationsPath)));
+    return isLoaded && QCoreApplication::installTranslator(&translator);
 }

@@ -12,7 +12,8 @@ struct Language
     QString catalogue; ///< resource with its texts; empty for English, in which the program is written
 };
 
-/// All languages; the first one is the default.
+/// All languages: Japanese, which is the default, English, and one for every other catalogue that was
+/// compiled in; that of the catalogue Nelvo_de_DE is chosen by "-de".
 const QVector<Language>& languages();
 const Language& japanese();
 const Language& english();
@@ -28,3 +29,7 @@ const Language& chooseLanguage(const QStringList& arguments);
 /// which must live as long as the texts are needed, and installs it. False when there is no catalogue, which
 /// leaves the texts in English.
 bool speak(const Language& language, QTranslator& translator);
+
+/// The same for the toolkit's own dialogs, whose catalogue lies in the folder "translations" beside the
+/// program or where the toolkit keeps its catalogues. False when there is none, which leaves them in English.
+bool speakInDialogs(const Language& language, QTranslator& translator);

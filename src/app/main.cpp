@@ -15,7 +15,10 @@ int main(int argc, char* argv[])
 
     QApplication application(argc, argv);
     QTranslator translator;
-    speak(chooseLanguage(arguments), translator);
+    const Language& language = chooseLanguage(arguments);
+    speak(language, translator);
+    QTranslator dialogTranslator;
+    speakInDialogs(language, dialogTranslator);
 
     // Never deleted: ending the program sends nothing to the instruments, and the destructors of the window
     // and of its link must not change that.

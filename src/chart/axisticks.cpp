@@ -5,9 +5,21 @@
 
 namespace AxisTicks {
 
+namespace {
+
+// value * 10^exponent. No negative power of ten is a double, and some C libraries miss the nearest one; the
+// positive powers are exact.
+double timesPowerOfTen(double value, double exponent)
+{
+    const double power = std::pow(10.0, std::abs(exponent));
+    return exponent < 0.0 ? value / power : value * power;
+}
+
+} // namespace
+
 double decadeStep(double span, double base)
 {
-    return base * std::pow(10.0, std::trunc(std::log10(span / base) - 0.5));
+    return timesPowerOfTen(base, std::trunc(std::log10(span / base) - 0.5));
 }
 
 Ticks ticks(double from, double to, double step)
@@ -61,7 +73,7 @@ FirstTick niceStep(double a, double b, int n)
         --exponent;
     }
     const double nice = mantissa <= 2.5 ? 1.0 : (mantissa <= 7.5 ? 5.0 : 10.0);
-    const double step = nice * std::pow(10.0, exponent);
+    const double step = timesPowerOfTen(nice, exponent);
     return {std::trunc(a / step + 1.0) * step, step};
 }
 

@@ -14,6 +14,8 @@ TShowView::TShowView(QWidget* parent)
           QColor(0, 180, 230), QColor(230, 180, 0), QColor(230, 0, 180), QColor(0, 230, 180)}
     , unitNames{tr("sec"), tr("min"), tr("hour"), tr("day")}
 {
+    constexpr int usualChannels = 16; // so that no history is copied for a channel that comes later
+    series.reserve(usualChannels);
 }
 
 void TShowView::addPoint(int channel, double sec, double degC)

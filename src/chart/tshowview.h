@@ -2,8 +2,8 @@
 
 #include "chart/chartview.h"
 #include "chart/chcoord.h"
+#include "chart/lines/pointbuffer.h"
 #include "chart/mousec.h"
-#include "chart/pointbuffer.h"
 
 #include <QColor>
 #include <QFrame>
@@ -54,7 +54,7 @@ protected:
 
 private:
     double nowSec() const;
-    void paintLines(QPainter& painter) const;
+    void paintCurves(QPainter& painter) const;
 
     ChCoord coord; // holds the last paint's rectangles, which the mouse handling relies on
     MouseC mouse;

@@ -1,14 +1,14 @@
 // The painting of the chart.
 
 #include "chart/axisticks.h"
-#include "chart/linestrokes.h"
+#include "chart/lines/curvepainter.h"
 #include "chart/tshowview.h"
 
 #include <QPainter>
 
 namespace {
 
-int whole(double length)
+int truncated(double length)
 {
     return static_cast<int>(length);
 }
@@ -17,13 +17,13 @@ int whole(double length)
 struct Layout
 {
     Layout(int w, int h)
-        : left(whole(0.1 * w))
-        , right(w - whole(0.03 * w))
-        , top(whole(0.05 * h))
-        , bottom(h - whole(0.08 * h))
-        , rightMargin(whole(0.03 * w))
-        , unitX(whole(0.02 * w))
-        , unitY(whole(0.02 * h))
+        : left(truncated(0.1 * w))
+        , right(w - truncated(0.03 * w))
+        , top(truncated(0.05 * h))
+        , bottom(h - truncated(0.08 * h))
+        , rightMargin(truncated(0.03 * w))
+        , unitX(truncated(0.02 * w))
+        , unitY(truncated(0.02 * h))
     {
     }
 
@@ -112,7 +112,7 @@ void TShowView::paintEvent(QPaintEvent*)
     painter.setClipRect(QRect(QPoint(at.left - 1, at.top - 1), QPoint(at.right, at.bottom)));
     coord.setPixelRect(at.left, at.top, at.right, at.bottom);
     coord.setDataRect(view.xMin(now), view.yMin(), view.xMax(now), view.yMax());
-    paintLines(painter);
+    paintCurves(painter);
 
     const Grid grid = gridOf(view, now);
     painter.setPen(QPen(QColor(0, 0, 0), 1));
@@ -123,28 +123,12 @@ void TShowView::paintEvent(QPaintEvent*)
     paintLabels(painter, at, grid, coord, unitNames.at(grid.unit.index));
 }
 
-void TShowView::paintLines(QPainter& painter) const
+void TShowView::paintCurves(QPainter& painter) const
 {
-    const PlotMapping& mapping = coord.mapping();
-    const QTransform device = painter.deviceTransform();
     for (int channel = 0; channel < series.size(); ++channel) {
-        const PointBuffer& points = series.at(channel);
-        if (!isShown(channel) || points.size() < 2) {
-            continue;
+        if (isShown(channel)) {
+            const QPen pen(colorOf(channel), channel == selected ? 3 : 1);
+            paintCurve(painter, series.at(channel), coord.mapping(), pen);
         }
-        const PenShape pen(channel == selected ? 3 : 1, device.m11(), device.dx(), device.dy());
-        const int first = points.firstIndex(mapping.xMin);
-        const int last = points.lastIndex(first, mapping.xMax);
-        const LineStrokes strokes = lineStrokes(points, mapping, first, last, pen);
-        const QColor color = colorOf(channel);
-        painter.setPen(QPen(color, pen.width()));
-        painter.drawLines(strokes.lines);
-        painter.setWorldTransform(device.inverted());
-        painter.setPen(QPen(color, 1));
-        painter.drawLines(strokes.uprights.lines);
-        for (const QRect& rect : strokes.uprights.fills) {
-            painter.fillRect(rect, color);
-        }
-        painter.resetTransform();
     }
 }

@@ -7,7 +7,11 @@
 
 namespace {
 
-const QString timeFormat = QStringLiteral("yyyy-MM-ddTHH:mm:ss.zzz");
+QString timeFormat()
+{
+    return QStringLiteral("yyyy-MM-ddTHH:mm:ss.zzz");
+}
+
 constexpr int timeLength = 23; // of a time in that format, the offset from UTC behind it
 constexpr int secPerHour = 3600;
 
@@ -61,7 +65,7 @@ std::optional<QString> unescaped(const QString& text)
 // The time with its offset, "2026-11-21T09:41:07.123+09:00", into `line`; false when it is none.
 bool readTime(const QString& text, JournalLine& line)
 {
-    QDateTime time = QDateTime::fromString(text.left(timeLength), timeFormat);
+    QDateTime time = QDateTime::fromString(text.left(timeLength), timeFormat());
     const QString offset = text.mid(timeLength);
     const QTime size = QTime::fromString(offset.mid(1), QStringLiteral("HH:mm"));
     const bool hasSign = offset.startsWith(QLatin1Char('+')) || offset.startsWith(QLatin1Char('-'));
@@ -90,7 +94,7 @@ QString JournalLine::value(const QString& name) const
 QByteArray journalText(const JournalLine& line)
 {
     const QDateTime time = QDateTime::fromMSecsSinceEpoch(line.systemMs, Qt::OffsetFromUTC, line.offsetSec);
-    QString text = time.toString(timeFormat) + offsetText(line.offsetSec) + QLatin1Char('\t')
+    QString text = time.toString(timeFormat()) + offsetText(line.offsetSec) + QLatin1Char('\t')
         + QString::number(line.elapsedSec, 'f', 3) + QLatin1Char('\t') + line.kind;
     for (const JournalField& field : line.fields) {
         text += QLatin1Char('\t') + field.name + QLatin1Char('=') + escaped(field.value);

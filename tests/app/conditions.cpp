@@ -120,6 +120,22 @@ private slots:
         QCOMPARE(next.value("b"_s), "3"_s);
     }
 
+    void aSecondFileAddsToTheStoreAndTakesItsPlace()
+    {
+        const QString second = "Second.dat"_s;
+        putFile(stateFile, "a\t1\nb\t2\n");
+        putFile(second, "b\t3\nc\t4\n");
+        Conditions conditions;
+        conditions.load(stateFile);
+        conditions.load(second);
+        QCOMPARE(fileText(second), QByteArray("a\t1\nb\t3\nc\t4\n"));
+        QCOMPARE(conditions.value("a"_s), "1"_s);
+        conditions.setValue("d"_s, "5"_s);
+        QCOMPARE(fileText(second), QByteArray("a\t1\nb\t3\nc\t4\na\t1\nb\t3\nc\t4\nd\t5\n"));
+        QCOMPARE(fileText(stateFile), QByteArray("a\t1\nb\t2\n"));
+        QVERIFY(QFile::remove(second));
+    }
+
     void keyAndValueAreStoredWithoutSurroundingSpace()
     {
         Conditions conditions;

@@ -1,22 +1,25 @@
 #include "app/formtable.h"
 
+#include "support/testtext.h"
+
 #include <QGridLayout>
 #include <QMainWindow>
+
+using namespace TestText;
 
 namespace {
 
 QString inWords(const QString& kind, const QString& place, const QString& frame)
 {
-    return QStringLiteral("%1; %2; %3").arg(kind, place, frame);
+    return "%1; %2; %3"_s.arg(kind, place, frame);
 }
 
 QString placeInWords(const char* layout, int row, int column, int rowSpan, int columnSpan)
 {
     if (qstrlen(layout) == 0) {
-        return QStringLiteral("in no layout of the table");
+        return "in no layout of the table"_s;
     }
-    return QStringLiteral("%1 (%2, %3) %4 x %5")
-        .arg(QLatin1String(layout))
+    return "%1 (%2, %3) %4 x %5"_s.arg(QLatin1String(layout))
         .arg(row)
         .arg(column)
         .arg(rowSpan)
@@ -25,7 +28,7 @@ QString placeInWords(const char* layout, int row, int column, int rowSpan, int c
 
 QString frameInWords(int shape, int shadow, int lineWidth)
 {
-    return QStringLiteral("frame %1, shadow %2, line %3").arg(shape).arg(shadow).arg(lineWidth);
+    return "frame %1, shadow %2, line %3"_s.arg(shape).arg(shadow).arg(lineWidth);
 }
 
 QString builtPlace(const QMainWindow& window, QWidget* widget, const char* name)
@@ -36,7 +39,7 @@ QString builtPlace(const QMainWindow& window, QWidget* widget, const char* name)
     auto* layout = layoutNamed(window, name);
     const int item = layout == nullptr ? -1 : layout->indexOf(widget);
     if (item < 0) {
-        return QStringLiteral("not in %1").arg(QLatin1String(name));
+        return "not in %1"_s.arg(QLatin1String(name));
     }
     int row = 0;
     int column = item;
@@ -52,7 +55,7 @@ QString builtPlace(const QMainWindow& window, QWidget* widget, const char* name)
 
 bool isOfTheForm(const QMainWindow& window, const QObject& object)
 {
-    const QObject* chart = window.findChild<QWidget*>(QStringLiteral("Tshow"));
+    const QObject* chart = window.findChild<QWidget*>("Tshow"_s);
     for (const QObject* holder = object.parent(); holder != nullptr; holder = holder->parent()) {
         if (holder == chart) {
             return false;
@@ -95,7 +98,7 @@ QString builtShape(const QMainWindow& window, const FormWidget& awaited)
 {
     const auto found = widgetsNamed(window, awaited.name);
     if (found.size() != 1) {
-        return QStringLiteral("%1 widgets of this name").arg(found.size());
+        return "%1 widgets of this name"_s.arg(found.size());
     }
     QWidget* widget = found.first();
     const auto* frame = qobject_cast<const QFrame*>(widget);

@@ -66,6 +66,30 @@ private slots:
         QCOMPARE(QCoreApplication::translate("MBEMain", "Stop"), "停止"_s);
     }
 
+    // The test brings a catalogue of its own along, as the program would that had one more.
+    void anotherCatalogueIsAnotherLanguage()
+    {
+        QCOMPARE(languages().size(), 3);
+        const Language& another = chooseLanguage(words("Nelvo -e -eo"));
+        QCOMPARE(another.catalogue, ":Nelvo_eo_EO"_s);
+        QTranslator translator;
+        QVERIFY(speak(another, translator));
+        QCOMPARE(QCoreApplication::translate("MBEMain", "Stop"), "Haltu"_s);
+        QCOMPARE(QCoreApplication::translate("MBEMain", "Pause"), "Pause"_s);
+    }
+
+    void theToolkitsDialogsFollow()
+    {
+        QTranslator translator;
+        QVERIFY(!speakInDialogs(english(), translator));
+        QCOMPARE(QCoreApplication::translate("QFileDialog", "Look in:"), "Look in:"_s);
+        if (!speakInDialogs(japanese(), translator)) {
+            QSKIP("the toolkit's catalogues are not installed");
+        }
+        const QString lookIn = QCoreApplication::translate("QFileDialog", "Look in:");
+        QVERIFY2(lookIn != "Look in:"_s, qPrintable(lookIn));
+    }
+
     void englishNeedsNoCatalogue()
     {
         QTranslator translator;

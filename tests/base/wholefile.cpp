@@ -36,13 +36,6 @@ QStringList filesHere()
 
 } // namespace
 
-// A test of what root may do but others may not: tried as somebody else.
-#define AS_ORDINARY_USER()                                                                                   \
-    if (mayWriteEverything()) {                                                                              \
-        QVERIFY(passesAsOrdinaryUser(QString::fromLatin1(QTest::currentTestFunction())));                    \
-        return;                                                                                              \
-    }
-
 class WholeFileTest : public QObject
 {
     Q_OBJECT

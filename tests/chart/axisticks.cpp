@@ -14,6 +14,7 @@ private slots:
     void timeStepBySpan();
     void temperatureStepBySpan_data();
     void temperatureStepBySpan();
+    void stepsBelowOneAreTheNearestNumbers();
     void quotientsAreTruncatedTowardZero();
     void aWindowWithoutUsableNumbersHasNoTicks();
     void everySpanHasAFewTicks();
@@ -84,6 +85,20 @@ void AxisTicksTest::temperatureStepBySpan()
 {
     QFETCH(double, span);
     QTEST(AxisTicks::decadeStep(span, 1.0), "step");
+}
+
+// Not one bit beside the decimal: otherwise a first tick would fall a whole step short.
+void AxisTicksTest::stepsBelowOneAreTheNearestNumbers()
+{
+    const QVector<double> ones{0.1, 0.01, 0.001, 0.0001, 0.00001, 0.000001, 0.0000001};
+    const QVector<double> fives{0.5, 0.05, 0.005, 0.0005, 0.00005, 0.000005, 0.0000005};
+    for (int i = 0; i < ones.size(); ++i) {
+        QVERIFY(AxisTicks::niceStep(0.0, 20.0 * ones.at(i), 10).step == ones.at(i));
+        QVERIFY(AxisTicks::niceStep(0.0, 50.0 * ones.at(i), 10).step == fives.at(i));
+        QVERIFY(AxisTicks::decadeStep(ones.at(i), 1.0) == ones.at(i));
+    }
+    QVERIFY(AxisTicks::decadeStep(0.06, 60.0) == 0.06);
+    QVERIFY(AxisTicks::niceStep(0.5, 0.7, 10).first == 0.51);
 }
 
 void AxisTicksTest::quotientsAreTruncatedTowardZero()

@@ -6,6 +6,7 @@
 
 #include <QCheckBox>
 #include <QGridLayout>
+#include <QLabel>
 
 class ChartFormsTest : public QObject
 {
@@ -61,6 +62,7 @@ void ChartFormsTest::aSelectorsFormIsAsDrawn()
     QCOMPARE(selector.frameShadow(), QFrame::Raised);
     QVERIFY(selector.testAttribute(Qt::WA_MouseTracking));
     QCOMPARE(selector.findChild<QCheckBox*>(QStringLiteral("LineSel"))->text(), QStringLiteral("CheckBox"));
+    QCOMPARE(selector.findChild<QLabel*>(QStringLiteral("LineColor"))->text(), QString());
     auto* grid = selector.findChild<QGridLayout*>(QStringLiteral("gridLayout"));
     QCOMPARE(grid->spacing(), 1);
     QCOMPARE(grid->contentsMargins(), QMargins(1, 1, 1, 1));

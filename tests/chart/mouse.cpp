@@ -15,7 +15,10 @@ private slots:
     void leftDragIntoTheFutureReturnsToNow();
     void rightDragShiftsTemperature();
     void aDragWithAModifierMovesNothing();
+    void aModifierDuringADragHoldsIt();
+    void aDragReleasedWithAModifierIsNotFinished();
     void aDragWithTheMiddleButtonMovesNothing();
+    void ofTwoButtonsTheOneLetGoEndsTheDrag();
     void aDoubleClickResetsWithoutARepaint();
     void everyOtherEventRepaintsOnce();
     void aMoveAfterADoubleClickShowsTheFirstView();
@@ -106,13 +109,47 @@ void MouseTest::aDragWithAModifierMovesNothing()
             QCOMPARE(chart.state().yDragShift, 0.0);
         }
     }
-    // Released with a modifier, a shift made without it stays a drag's.
+}
+
+void MouseTest::aModifierDuringADragHoldsIt()
+{
     ShownChart chart;
     Hand::press(chart.view, QPointF(400, 100), Qt::LeftButton);
     Hand::move(chart.view, QPointF(487, 100), Qt::LeftButton);
-    Hand::release(chart.view, QPointF(487, 100), Qt::LeftButton, Qt::ShiftModifier);
-    QCOMPARE(chart.state().xDragShift, 30.0);
-    QCOMPARE(chart.state().xOffset, 0.0);
+    Hand::move(chart.view, QPointF(600, 100), Qt::LeftButton, Qt::ShiftModifier);
+    QCOMPARE(chart.state().xDragShift, 30.0); // where it was without the modifier
+    Hand::move(chart.view, QPointF(574, 100), Qt::LeftButton);
+    QCOMPARE(chart.state().xDragShift, 60.0);
+    Hand::release(chart.view, QPointF(574, 100), Qt::LeftButton);
+    QCOMPARE(chart.state().xOffset, 60.0);
+
+    Hand::press(chart.view, QPointF(400, 100), Qt::RightButton);
+    Hand::move(chart.view, QPointF(400, 187), Qt::RightButton);
+    Hand::move(chart.view, QPointF(400, 300), Qt::RightButton, Qt::ControlModifier);
+    QCOMPARE(chart.state().yDragShift, -200.0);
+    Hand::release(chart.view, QPointF(400, 300), Qt::RightButton);
+    QCOMPARE(chart.state().yOffset, -200.0);
+}
+
+// The shift made without the modifier stays that of a drag, until the next one ends.
+void MouseTest::aDragReleasedWithAModifierIsNotFinished()
+{
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+        const bool isLeft = button == Qt::LeftButton;
+        ShownChart chart;
+        const auto shift = [&] { return isLeft ? chart.state().xDragShift : chart.state().yDragShift; };
+        const auto offset = [&] { return isLeft ? chart.state().xOffset : chart.state().yOffset; };
+        Hand::press(chart.view, QPointF(400, 100), button);
+        Hand::move(chart.view, QPointF(487, 187), button);
+        Hand::release(chart.view, QPointF(487, 187), button, Qt::ShiftModifier);
+        const double expected = isLeft ? 30.0 : -200.0;
+        QCOMPARE(shift(), expected);
+        QCOMPARE(offset(), 0.0);
+        Hand::press(chart.view, QPointF(300, 300), button);
+        Hand::release(chart.view, QPointF(300, 300), button);
+        QCOMPARE(shift(), 0.0);
+        QCOMPARE(offset(), expected);
+    }
 }
 
 void MouseTest::aDragWithTheMiddleButtonMovesNothing()
@@ -121,6 +158,29 @@ void MouseTest::aDragWithTheMiddleButtonMovesNothing()
     Hand::drag(chart.view, QPointF(400, 100), QPointF(500, 200), Qt::MiddleButton);
     QCOMPARE(chart.state().xOffset, 0.0);
     QCOMPARE(chart.state().yOffset, 0.0);
+}
+
+void MouseTest::ofTwoButtonsTheOneLetGoEndsTheDrag()
+{
+    ShownChart chart;
+    Hand::press(chart.view, QPointF(400, 100), Qt::LeftButton);
+    Hand::move(chart.view, QPointF(487, 100), Qt::LeftButton);
+    Hand::press(chart.view, QPointF(487, 100), Qt::RightButton);
+    Hand::move(chart.view, QPointF(487, 187), Qt::RightButton); // the last button pressed counts
+    QCOMPARE(chart.state().yDragShift, -200.0);
+    Hand::release(chart.view, QPointF(487, 187), Qt::RightButton);
+    QCOMPARE(chart.state().yOffset, -200.0);
+    QCOMPARE(chart.state().xDragShift, 30.0);
+    // No button counts as held now, though the left one is.
+    Hand::move(chart.view, QPointF(700, 300), Qt::LeftButton);
+    QCOMPARE(chart.state().xDragShift, 30.0);
+    QCOMPARE(chart.state().yOffset, -200.0);
+    Hand::wheel(chart.view, 120);
+    QCOMPARE(chart.state().xSpan, 270.0);
+    QCOMPARE(chart.state().ySpan, 1000.0);
+    Hand::release(chart.view, QPointF(700, 300), Qt::LeftButton);
+    QCOMPARE(chart.state().xOffset, 30.0);
+    QCOMPARE(chart.state().xDragShift, 0.0);
 }
 
 void MouseTest::aDoubleClickResetsWithoutARepaint()
@@ -168,16 +228,27 @@ void MouseTest::everyOtherEventRepaintsOnce()
 
 void MouseTest::aMoveAfterADoubleClickShowsTheFirstView()
 {
-    ShownChart chart;
-    QVERIFY(!chart.view.hasMouseTracking());
-    Hand::notches(chart.view, 3);
-    chart.paints.take();
-    Hand::doubleClick(chart.view, QPointF(500, 200));
-    QCOMPARE(chart.paints.take(), 0);
-    Hand::move(chart.view, QPointF(700, 300), Qt::LeftButton); // its second press still held
-    QCOMPARE(chart.paints.take(), 1);
-    QCOMPARE(chart.state().xDragShift, 0.0);
-    QCOMPARE(chart.state().xSpan, 300.0);
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+        ShownChart chart;
+        QVERIFY(!chart.view.hasMouseTracking());
+        Hand::notches(chart.view, 3);
+        Hand::press(chart.view, QPointF(500, 200), button);
+        Hand::release(chart.view, QPointF(500, 200), button);
+        chart.paints.take();
+        Hand::doubleClick(chart.view, QPointF(500, 200), button);
+        QCOMPARE(chart.paints.take(), 0);
+        for (const double x : {700.0, 750.0}) {
+            Hand::move(
+                chart.view, QPointF(x, 300), button); // its second press is still held, yet does not count
+            QCOMPARE(chart.paints.take(), 1);
+            QCOMPARE(chart.state().xDragShift, 0.0);
+            QCOMPARE(chart.state().yDragShift, 0.0);
+        }
+        QCOMPARE(chart.state().xSpan, 300.0);
+        Hand::release(chart.view, QPointF(750, 300), button);
+        QCOMPARE(chart.state().xOffset, 0.0);
+        QCOMPARE(chart.state().yOffset, 0.0);
+    }
 }
 
 void MouseTest::draggingBeforeTheFirstPaintIsHarmless()

@@ -17,6 +17,7 @@ private slots:
     void theSmallestTemperatureSpanHasDegrees();
     void belowZeroQuotientsAreTruncatedTowardZero();
     void aViewOfThePastCountsFromNow();
+    void aSecondThreeHoursBackHasItsGrid();
     void whileDraggedIntoTheFutureTheLabelsStayAges();
     void aChannelBeforeOrAfterTheWindowDrawsNothing();
     void theLineIsClippedOnePixelOutsideTheFrame();
@@ -160,6 +161,22 @@ void PaintingTest::aViewOfThePastCountsFromNow()
     const Drawn drawn = chart.drawn();
     QCOMPARE(drawn.texts.mid(11).join(QLatin1Char(' ')), QStringLiteral("60 61 62 63 64 65 [min]"));
     QCOMPARE(timeLines(drawn.blackLines), (QVector<int>{970, 796, 622, 448, 274, 100}));
+}
+
+// Far from now the step is still one of the span, and the lines are counted from now.
+void PaintingTest::aSecondThreeHoursBackHasItsGrid()
+{
+    Chart chart;
+    chart.picture();
+    for (int i = 0; i < 36; ++i) {
+        Hand::drag(chart.view, QPointF(100, 100), QPointF(970, 100), Qt::LeftButton);
+    }
+    Hand::notches(chart.view, 100);
+    QCOMPARE(chart.view.chartView().xSpan, 1.0);
+    QCOMPARE(chart.view.chartView().xOffset, 10800.0);
+    const Drawn drawn = chart.drawn();
+    QCOMPARE(drawn.texts.mid(11).join(QLatin1Char(' ')), QStringLiteral("10800 10801 [sec]"));
+    QCOMPARE(timeLines(drawn.blackLines), (QVector<int>{970, 100}));
 }
 
 void PaintingTest::whileDraggedIntoTheFutureTheLabelsStayAges()

@@ -1,4 +1,4 @@
-#include "chart/pointbuffer.h"
+#include "chart/lines/pointbuffer.h"
 #include "support/testmain.h"
 
 #include <cmath>
@@ -14,13 +14,7 @@ private slots:
     void findsTheLastPointAtOrBefore_data();
     void findsTheLastPointAtOrBefore();
     void findsTheFirstPointLaterThan();
-    void keepsTheNewestPointsAtTheLimit();
-    void theChartsLimitIs200000Points();
-    void thinningTakesEverySecondPoint();
-    void thinningStopsAtItsTarget();
     void extremesAreThoseOfEveryPoint();
-    void everyPairOutsideIsAmongTheCandidates();
-    void blocksWithoutAPairOutsideAreLeftOut();
     void stretchesBreakWhereTheClockStepsBack();
     void aPointThatIsNotFiniteStandsAlone();
     void stretchesAreForgottenWithTheirPoints();
@@ -36,15 +30,6 @@ PointBuffer filled(int count, int maximum = 200000)
         buffer.append({1.0 * i, 100.0 + i});
     }
     return buffer;
-}
-
-QVector<double> seconds(const PointBuffer& buffer)
-{
-    QVector<double> all;
-    for (int i = 0; i < buffer.size(); ++i) {
-        all.append(buffer.at(i).sec);
-    }
-    return all;
 }
 
 } // namespace
@@ -96,60 +81,6 @@ void PointBufferTest::findsTheFirstPointLaterThan()
     QCOMPARE(stepsBack.lastIndex(0, 20.0), 11);
 }
 
-void PointBufferTest::keepsTheNewestPointsAtTheLimit()
-{
-    PointBuffer buffer(5);
-    for (int i = 0; i < 5; ++i) {
-        buffer.append({1.0 * i, 0.0});
-    }
-    QCOMPARE(seconds(buffer), (QVector<double>{0, 1, 2, 3, 4}));
-    buffer.append({5.0, 0.0});
-    QCOMPARE(seconds(buffer), (QVector<double>{1, 2, 3, 4, 5}));
-
-    // Over many pieces of memory.
-    const PointBuffer longer = filled(10000, 3000);
-    QCOMPARE(longer.size(), 3000);
-    for (int i = 0; i < 3000; ++i) {
-        QCOMPARE(longer.at(i).sec, 7000.0 + i);
-    }
-}
-
-void PointBufferTest::theChartsLimitIs200000Points()
-{
-    PointBuffer buffer;
-    QCOMPARE(buffer.maximum(), 200000);
-    for (int i = 0; i < 200001; ++i) {
-        buffer.append({1.0 * i, 0.0});
-    }
-    QCOMPARE(buffer.size(), 200000);
-    QCOMPARE(buffer.at(0).sec, 1.0);
-    QCOMPARE(buffer.at(199999).sec, 200000.0);
-}
-
-void PointBufferTest::thinningTakesEverySecondPoint()
-{
-    PointBuffer buffer(200000, 100000, PointBuffer::ThinOut);
-    for (int i = 0; i < 200000; ++i) {
-        buffer.append({1.0 * i, 0.0});
-    }
-    QCOMPARE(buffer.size(), 200000);
-    buffer.append({200000.0, 0.0});
-    QCOMPARE(buffer.size(), 100001);
-    for (int i = 0; i < buffer.size(); ++i) {
-        QCOMPARE(buffer.at(i).sec, 2.0 * i);
-    }
-    QCOMPARE(buffer.firstIndex(100.5), 50);
-}
-
-void PointBufferTest::thinningStopsAtItsTarget()
-{
-    PointBuffer buffer(10, 8, PointBuffer::ThinOut);
-    for (int i = 0; i < 11; ++i) {
-        buffer.append({1.0 * i, 0.0});
-    }
-    QCOMPARE(seconds(buffer), (QVector<double>{0, 2, 4, 6, 7, 8, 9, 10}));
-}
-
 void PointBufferTest::extremesAreThoseOfEveryPoint()
 {
     std::mt19937 random(7);
@@ -168,55 +99,6 @@ void PointBufferTest::extremesAreThoseOfEveryPoint()
         QCOMPARE(range.lowest, *ends.first);
         QCOMPARE(range.highest, *ends.second);
     }
-}
-
-void PointBufferTest::everyPairOutsideIsAmongTheCandidates()
-{
-    std::mt19937 random(21);
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    PointBuffer buffer(3000);
-    for (int i = 0; i < 5000; ++i) {
-        buffer.append({1.0 * i, i % 131 == 0 ? nan : 1.0 * (random() % 1000)});
-    }
-    for (int go = 0; go < 300; ++go) {
-        const int from = 1 + static_cast<int>(random() % 2900);
-        const int last = from + static_cast<int>(random() % static_cast<unsigned>(buffer.size() - from));
-        const ValueRange inside{1.0 * (random() % 60), 1000.0 - random() % 60};
-        QVector<bool> isCandidate(buffer.size(), false);
-        int point = from;
-        while (point <= last) {
-            const PointBuffer::Candidates found = buffer.pairsOutside(point, last, inside);
-            QVERIFY(found.from >= point && found.end <= last + 1 && found.end >= found.from);
-            for (int i = found.from; i < found.end; ++i) {
-                isCandidate[i] = true;
-            }
-            point = found.end;
-        }
-        for (int i = from; i <= last; ++i) {
-            const double a = buffer.at(i - 1).degC;
-            const double b = buffer.at(i).degC;
-            const bool isOutside
-                = (a > inside.highest && b > inside.highest) || (a < inside.lowest && b < inside.lowest);
-            QVERIFY(!isOutside || isCandidate.at(i));
-        }
-    }
-}
-
-void PointBufferTest::blocksWithoutAPairOutsideAreLeftOut()
-{
-    PointBuffer buffer;
-    for (int i = 0; i < 100000; ++i) {
-        buffer.append({1.0 * i, i % 2 == 0 ? 100.0 : 900.0});
-    }
-    // Each second point is above and each other below, but no two neighbours are.
-    PointBuffer::Candidates found = buffer.pairsOutside(1, 99999, {400.0, 600.0});
-    QCOMPARE(found.from, 100000);
-    QCOMPARE(found.end, 100000);
-    buffer.append({100000.0, 100.0});
-    buffer.append({100001.0, 200.0});
-    found = buffer.pairsOutside(1, 100001, {400.0, 600.0});
-    QVERIFY(found.from <= 100001 && found.from > 100001 - 64);
-    QCOMPARE(found.end, 100002);
 }
 
 void PointBufferTest::stretchesBreakWhereTheClockStepsBack()

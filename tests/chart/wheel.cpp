@@ -15,7 +15,9 @@ private slots:
     void wheelScalesTimeByOneFactorWhateverItsSize();
     void wheelWithTheRightButtonKeepsTheTemperatureUnderTheCursor();
     void wheelUsesTheRecordedPositionNotItsOwn();
-    void wheelWithTheLeftButtonChangesNothingButRepaints();
+    void wheelWithTheRightButtonRepaints();
+    void wheelWithAnotherButtonChangesNothingButRepaints();
+    void wheelThatDoesNotTurnScalesDown();
     void modifiersDoNotChangeTheWheel();
     void aThousandNotchesAndATripleSpanStillPaint();
 };
@@ -68,29 +70,53 @@ void WheelTest::wheelWithTheRightButtonKeepsTheTemperatureUnderTheCursor()
 
 void WheelTest::wheelUsesTheRecordedPositionNotItsOwn()
 {
-    ShownChart here;
+    ShownChart atPress;
     ShownChart elsewhere;
-    for (ShownChart* chart : {&here, &elsewhere}) {
+    for (ShownChart* chart : {&atPress, &elsewhere}) {
         Hand::press(chart->view, QPointF(500, 400), Qt::RightButton);
     }
-    Hand::wheel(here.view, 120, QPointF(500, 400));
+    Hand::wheel(atPress.view, 120, QPointF(500, 400));
     Hand::wheel(elsewhere.view, 120, QPointF(10, 30));
-    QVERIFY(here.state().yOffset != 0.0);
-    QCOMPARE(elsewhere.state().yOffset, here.state().yOffset);
+    QVERIFY(atPress.state().yOffset != 0.0);
+    QCOMPARE(elsewhere.state().yOffset, atPress.state().yOffset);
 }
 
-void WheelTest::wheelWithTheLeftButtonChangesNothingButRepaints()
+void WheelTest::wheelWithTheRightButtonRepaints()
 {
     ShownChart chart;
-    Hand::press(chart.view, QPointF(500, 242), Qt::LeftButton);
+    Hand::press(chart.view, QPointF(500, 242), Qt::RightButton);
     chart.paints.take();
-    Hand::wheel(chart.view, 120);
-    Hand::wheel(chart.view, -120);
-    Hand::wheel(chart.view, 120);
-    QCOMPARE(chart.state().xSpan, 300.0);
-    QCOMPARE(chart.state().ySpan, 1000.0);
-    QCOMPARE(chart.state().yOffset, 0.0);
-    QCOMPARE(chart.paints.take(), 1);
+    for (const int delta : {120, -120}) {
+        Hand::wheel(chart.view, delta);
+        QCOMPARE(chart.paints.take(), 1);
+    }
+}
+
+void WheelTest::wheelWithAnotherButtonChangesNothingButRepaints()
+{
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::MiddleButton}) {
+        ShownChart chart;
+        Hand::press(chart.view, QPointF(500, 242), button);
+        chart.paints.take();
+        Hand::wheel(chart.view, 120);
+        Hand::wheel(chart.view, -120);
+        Hand::wheel(chart.view, 120);
+        QCOMPARE(chart.state().xSpan, 300.0);
+        QCOMPARE(chart.state().ySpan, 1000.0);
+        QCOMPARE(chart.state().yOffset, 0.0);
+        QCOMPARE(chart.paints.take(), 1);
+    }
+}
+
+// Only a turn away from the hand is a step closer.
+void WheelTest::wheelThatDoesNotTurnScalesDown()
+{
+    ShownChart chart;
+    Hand::wheel(chart.view, 0);
+    QCOMPARE(chart.state().xSpan, 300.0 / 0.9);
+    Hand::press(chart.view, QPointF(500, 242), Qt::RightButton);
+    Hand::wheel(chart.view, 0);
+    QCOMPARE(chart.state().ySpan, 1000.0 / 0.9);
 }
 
 void WheelTest::modifiersDoNotChangeTheWheel()

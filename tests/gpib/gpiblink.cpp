@@ -136,6 +136,26 @@ private slots:
         QVERIFY(adapter.expectNothing());
     }
 
+    void reconnectingLeavesOneConnection()
+    {
+        QTcpServer server;
+        QVERIFY(server.listen(QHostAddress(ownLoopbackAddress())));
+        GPIB gpib;
+        QSignalSpy spy(&gpib, &GPIB::dataReady);
+        gpib.connectAdapter(ownLoopbackAddress(), server.serverPort());
+        QTRY_VERIFY(server.hasPendingConnections());
+        const std::unique_ptr<QTcpSocket> first(server.nextPendingConnection());
+        QTRY_COMPARE(first->bytesAvailable(), 6);
+
+        gpib.connectAdapter(ownLoopbackAddress(), server.serverPort());
+        QTRY_VERIFY(server.hasPendingConnections());
+        const std::unique_ptr<QTcpSocket> second(server.nextPendingConnection());
+        QTRY_COMPARE(first->state(), QAbstractSocket::UnconnectedState);
+        QTRY_COMPARE(second->bytesAvailable(), 6);
+        second->write("a line\n");
+        QTRY_COMPARE(spy.count(), 1);
+    }
+
     void reconnectingKeepsThePendingReply()
     {
         ScriptedAdapter adapter;

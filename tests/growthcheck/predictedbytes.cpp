@@ -138,13 +138,14 @@ class PredictedBytesTest : public OpenStationTest
         return timeline.stop == GrowthCheck::Timeline::Stop::AtEnd && timeline.endMs < longestMs;
     }
 
-    // Empty when what came of a channel (-1 for the shutters) is what was predicted. What need not come may be
-    // taken for the next one, which can be the same bytes: then it is tried without it.
+    // Empty when what came of a channel (-1 for the shutters) is what was predicted. What need not come may
+    // be taken for the next one, which can be the same bytes: then it is tried without it.
     QString difference(
         const Sequence& sequence, qint64 allowedMs, qint64 untilMs, int next = 0, int place = 0) const
     {
         const bool hasCome = place < sequence.came.size();
-        const QByteArray came = hasCome ? readable(sequence.came[place].message.bytes) : QByteArray("nothing");
+        const QByteArray came
+            = hasCome ? readable(sequence.came[place].message.bytes) : QByteArray("nothing");
         const qint64 cameMs = hasCome ? sequence.came[place].ms : -1;
         if (next == sequence.predicted.size()) {
             return hasCome ? "%1 came at %2 ms, and nothing was predicted"_s.arg(

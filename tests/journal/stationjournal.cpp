@@ -52,11 +52,11 @@ private slots:
     void everyMaskIsToldInLettersWithItsWait()
     {
         journalEvents();
-        station->click("CS03"_s);
+        station->click(cell("CS", 2));
         QCOMPARE(
             journalEvents({"connected"_s}), QStringList({"shutters open=xxoxxxx waited-ms=0 link=up"_s}));
         station->tick();
-        station->click("CS07"_s); // a reading is awaited now
+        station->click(cell("CS", 6)); // a reading is awaited now
         QCOMPARE(journalEvents(), QStringList());
         DrivenClock::advance(700);
         station->adapter.send("ER\r\n");
@@ -97,7 +97,7 @@ private slots:
         QCOMPARE(journalEvents(),
             QStringList({"ramp-refused cell=Ga why=time from=100 to=700 minutes=0 rate=0"_s}));
         station->pressRun(1, "110"_s, "10"_s);
-        station->click("RunT02"_s);
+        station->click(cell("RunT", 1));
         QCOMPARE(journalEvents().last(), "ramp-end cell=Ga why=stopped"_s);
     }
 

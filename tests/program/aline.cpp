@@ -180,6 +180,10 @@ private slots:
         }
         row.edit(TimesColumn)->setText("2.5"_s);
         QCOMPARE(row.line.times(), 0);
+        row.edit(TimesColumn)->setText("0x10"_s);
+        QCOMPARE(row.line.times(), 0);
+        row.edit(TimesColumn)->setText("010"_s);
+        QCOMPARE(row.line.times(), 10);
     }
 
     void markColoursTheStepOnly()

@@ -140,6 +140,44 @@ private slots:
         QCOMPARE(program().label("DispTTime01"), "  32.0"_s);
     }
 
+    void pauseBeforeTheFirstTickKeepsTheFirstStepFromStarting()
+    {
+        program().enter(0, "5"_s);
+        program().shutter(0, 1)->click();
+        program().click("Run");
+        program().click("Pause");
+        QVERIFY(program().isWaiting());
+        for (int i = 0; i < 10; ++i) {
+            program().tick(1000);
+        }
+        QVERIFY(program().isRunning());
+        QCOMPARE(program().marked(), QVector<int>());
+        QVERIFY(station->adapter.expectNothing());
+        program().click("Pause");
+        program().tick();
+        QCOMPARE(program().marked(), QVector<int>{1});
+        QCOMPARE(program().label("DispTime01"), "0"_s);
+        QVERIFY(station->adapter.expect(Wire::shutters(0x02)));
+    }
+
+    void runShowsTheNewCountsAndLeavesTheOldTimes()
+    {
+        program().enter(0, "5"_s, "A"_s, "3"_s);
+        program().click("Run");
+        program().tick();
+        program().tick(2500);
+        program().click("Run");
+        program().enter(0, "7"_s, "A"_s, "4"_s);
+        program().click("Run");
+        const char* const labels[]
+            = {"DispTime01", "DispTime02", "DispTTime01", "DispTTime02", "DispCount01", "DispCount02"};
+        QStringList shown;
+        for (const char* label : labels) {
+            shown += program().label(label).trimmed();
+        }
+        QCOMPARE(shown, QStringList({"2.5"_s, "5.0"_s, "2.5"_s, "28.0"_s, "1"_s, "4"_s}));
+    }
+
     void pauseShowsAndDoesNothingWhenIdle()
     {
         program().click("Pause");

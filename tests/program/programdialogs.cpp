@@ -130,18 +130,28 @@ private slots:
         QCOMPARE(fileText(folder() + "/plain.dat"_s).count('\n'), ProgramTab::rows);
     }
 
+    void anOpenDialogDoesNotOutliveTheWindow_data()
+    {
+        QTest::addColumn<QByteArray>("button");
+        QTest::addColumn<QByteArray>("dialogName");
+        QTest::newRow("load") << QByteArray("Load") << QByteArray("loadDialog");
+        QTest::newRow("save") << QByteArray("Save") << QByteArray("saveDialog");
+    }
+
     void anOpenDialogDoesNotOutliveTheWindow()
     {
+        QFETCH(QByteArray, button);
+        QFETCH(QByteArray, dialogName);
         station->window().show();
-        program().click("Load");
-        QVERIFY(dialogNamed("loadDialog")->isVisible());
+        program().click(button.constData());
+        QVERIFY(dialogNamed(dialogName.constData())->isVisible());
         QTimer patience;
         patience.setSingleShot(true);
         connect(&patience, &QTimer::timeout, qApp, [] { QCoreApplication::exit(1); });
         patience.start(10000);
         QTimer::singleShot(0, &station->window(), &QWidget::close);
         QCOMPARE(QCoreApplication::exec(), 0);
-        dialogNamed("loadDialog")->close();
+        dialogNamed(dialogName.constData())->close();
     }
 };
 

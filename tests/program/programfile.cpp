@@ -166,6 +166,8 @@ private slots:
         QCOMPARE(step->setPoints[8], "i"_s);
         QCOMPARE(step->timeSec, 0.0);
         QCOMPARE(step->times, 0);
+        QCOMPARE(ProgramFile::stepOf(tabbed("0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 1 G 010"))->times, 10);
+        QCOMPARE(ProgramFile::stepOf(tabbed("0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 1 G 0x10"))->times, 0);
         QCOMPARE(ProgramFile::stepOf(tabbed("0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 inf G 1"))->timeSec, 0.0);
     }
 

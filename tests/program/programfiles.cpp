@@ -6,6 +6,7 @@
 #include "support/testmain.h"
 
 #include <QDir>
+#include <QTextCodec>
 
 using namespace TestText;
 
@@ -53,6 +54,32 @@ private slots:
         QCOMPARE(program().steps(), before);
         program().saveFile("full.dat"_s);
         QCOMPARE(fileText("full.dat"_s), saved);
+    }
+
+    void aGroupOutsideAsciiIsSavedAndLoaded_data()
+    {
+        QTest::addColumn<QByteArray>("encoding");
+        QTest::addColumn<QByteArray>("saved");
+        QTest::newRow("UTF-8") << QByteArray("UTF-8") << QByteArray("\t量子井戸\t3\n");
+        QTest::newRow("Shift_JIS") << QByteArray("Shift_JIS")
+                                   << QByteArray("\t\x97\xCA\x8E\x71\x88\xE4\x8C\xCB\t3\n");
+    }
+
+    // In the encoding of the machine.
+    void aGroupOutsideAsciiIsSavedAndLoaded()
+    {
+        QFETCH(QByteArray, encoding);
+        QFETCH(QByteArray, saved);
+        QTextCodec* before = QTextCodec::codecForLocale();
+        QTextCodec::setCodecForLocale(QTextCodec::codecForName(encoding));
+        program().enter(0, "5"_s, "量子井戸"_s, "3"_s);
+        program().saveFile("group.dat"_s);
+        program().click("Clear");
+        program().loadFile("group.dat"_s);
+        QTextCodec::setCodecForLocale(before);
+        QVERIFY2(fileText("group.dat"_s).contains(saved), fileText("group.dat"_s).left(60));
+        QCOMPARE(program().group(0)->text(), "量子井戸"_s);
+        QCOMPARE(program().times(0)->text(), "3"_s);
     }
 
     void fileMissingLeavesTheTable()

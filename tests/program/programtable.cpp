@@ -109,6 +109,14 @@ private slots:
         QVERIFY(ProgramTab::menuOf(*program().time(0)) != entries);
     }
 
+    void menuOpensWhereItIsAskedFor()
+    {
+        for (const int row : {0, 1}) { // further down the screen ends, and the menu opens higher
+            QLabel& step = *program().stepLabel(row);
+            QCOMPARE(step.mapFromGlobal(ProgramTab::menuPlace(step)), step.rect().center());
+        }
+    }
+
     void clearMakesEveryRowUnused()
     {
         program().load(numberedSteps());

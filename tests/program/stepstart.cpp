@@ -166,6 +166,38 @@ private slots:
         QCOMPARE(program().label("DispTTime02"), "   0.6"_s);
     }
 
+    void stopEndsTheProgramForGood()
+    {
+        QVERIFY(openInRealTime());
+        for (int k = 0; k < 5; ++k) {
+            program().enter(k, k < 2 ? "0.05"_s : "0.1"_s);
+            program().shutter(k, k)->click();
+        }
+        program().click("Run");
+        QTRY_COMPARE(program().marked(), QVector<int>{3});
+        program().click("Run");
+        const QByteArray masks("\x01\x02\x04");
+        QTRY_COMPARE(station->masks(), masks);
+        const QString time = program().label("DispTTime01");
+        // Two polling rounds later, more than twice the step's time, nothing has moved on.
+        const int records = Station::records();
+        QTRY_VERIFY(Station::records() > records + 1);
+        QCOMPARE(program().marked(), QVector<int>{3});
+        QCOMPARE(program().label("DispTTime01"), time);
+        QCOMPARE(station->masks(), masks);
+        QVERIFY(!program().isRunning());
+    }
+
+    void aProgramTicksEveryTenMilliseconds()
+    {
+        QVERIFY(openInRealTime());
+        program().enter(0, "0.1"_s);
+        const FiredTimers timers;
+        program().click("Run");
+        QTRY_VERIFY(!program().isRunning());
+        QCOMPARE(timers.intervals(), "10"_s);
+    }
+
     void endlessShortStepsLeaveTheWindowAlive()
     {
         QVERIFY(openInRealTime());

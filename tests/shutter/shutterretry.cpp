@@ -106,6 +106,32 @@ private slots:
         QCOMPARE(lines("\"GPIB shutter controll [xoxxxxo]\""_s), 1);
     }
 
+    void aProgramsStepsWaitToo()
+    {
+        for (int row = 0; row < 3; ++row) {
+            program().enter(row, row < 2 ? "0.03"_s : "60"_s);
+            program().shutter(row, row)->click();
+        }
+        program().click("Run");
+        QTRY_COMPARE(program().marked(), QVector<int>{3});
+        QVERIFY(station->adapter.expectNothing());
+        QCOMPARE(station->states("CS", "Open"_s, "Close"_s), "xxxxxxx"_s);
+        station->adapter.send(Wire::reading(25.0) + '\n');
+        // Of the three steps' commands, the last one is sent, once.
+        QVERIFY(station->adapter.expect(
+            Wire::toShutters + Wire::shutters(0x04) + Wire::toTemperatures + Wire::readRequest(0)));
+        QCOMPARE(lines(sent), 1);
+        QCOMPARE(station->states("CS", "Open"_s, "Close"_s), "xxoxxxx"_s);
+    }
+
+    void itIsTriedAgainEveryTenMilliseconds()
+    {
+        const FiredTimers timers;
+        station->click(cell("CS", 0));
+        QTRY_VERIFY(lines(retrying) >= 3);
+        QCOMPARE(timers.intervals(), "10"_s);
+    }
+
     void allCloseWaitsToo()
     {
         station->click(cell("NS", 2));

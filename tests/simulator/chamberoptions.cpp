@@ -67,6 +67,12 @@ private slots:
         QVERIFY(commandLine.options.once);
     }
 
+    void aRecordingIsNamed()
+    {
+        QCOMPARE(read(words("--replay day.log")).options.replayFile, "day.log"_s);
+        QVERIFY(read({}).options.replayFile.isEmpty());
+    }
+
     void aLatencyAloneHasNoJitter()
     {
         const Options options = read(words("--latency 0")).options;
@@ -108,6 +114,8 @@ private slots:
         row("--fault late=nan", "--fault 'late=nan'");
         row("--fault late=", "--fault 'late='");
         row("--fault late=0.1 --fault late=0.2", "--fault 'late=0.2'");
+        row("--replay=", "--replay ''");
+        row("--replay a --fault late=0.1", "--fault with --replay");
         row("--quiet=yes", "quiet");
     }
 
@@ -124,7 +132,7 @@ private slots:
         const CommandLine commandLine = read({"--help"_s});
         QCOMPARE(commandLine.error, QString());
         for (const char* option : {"--listen", "--port", "--seed", "--time-scale", "--latency", "--fault",
-                 "--quiet", "--once", "--help", "--version"}) {
+                 "--replay", "--quiet", "--once", "--help", "--version"}) {
             QVERIFY2(commandLine.text.contains(QLatin1String(option)), option);
         }
         for (int kind = 0; kind < faultKindCount; ++kind) {

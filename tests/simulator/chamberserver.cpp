@@ -135,11 +135,7 @@ private slots:
         RunningChamber chamber;
         Client client(chamber);
         client.socket.setReadBufferSize(1);
-        QByteArray stream;
-        for (int i = 0; i < 3000000; ++i) {
-            stream += "++eos\n"; // three bytes back for six; 9 MB in all
-        }
-        client.socket.write(stream);
+        client.socket.write(QByteArray("++eos\n").repeated(3000000)); // three bytes back for six; 9 MB in all
         // Buffers on the way fill up until nothing moves, with most of the stream still here.
         qint64 left = -1;
         QVERIFY(QTest::qWaitFor(
@@ -173,10 +169,7 @@ private slots:
     {
         RunningChamber chamber;
         constexpr int commands = 1000000; // more than one read buffer holds
-        QByteArray stream = "++addr 3\n++eos 3\n";
-        for (int i = 0; i < commands; ++i) {
-            stream += "\x1B\x09\n";
-        }
+        const QByteArray stream = "++addr 3\n++eos 3\n" + Wire::shutters(0x09).repeated(commands);
         Client client(chamber);
         client.socket.write(stream);
         client.socket.disconnectFromHost();

@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QtTest>
 
 #include <grp.h>
 #include <pwd.h>
@@ -36,8 +37,12 @@ bool mayWriteEverything()
     return geteuid() == 0;
 }
 
-bool passesAsOrdinaryUser(const QString& function)
+bool passesAsOrdinaryUser()
 {
+    QString test = QString::fromLatin1(QTest::currentTestFunction());
+    if (QTest::currentDataTag() != nullptr) {
+        test += QLatin1Char(':') + QString::fromUtf8(QTest::currentDataTag());
+    }
     // A copy, since the folder of this program may be closed to others.
     const QTemporaryDir folder(QStringLiteral("/tmp/nobody-XXXXXX"));
     const QString program = folder.filePath(QStringLiteral("test"));
@@ -51,7 +56,7 @@ bool passesAsOrdinaryUser(const QString& function)
     ProcessOfNobody process;
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.setWorkingDirectory(QStringLiteral("/"));
-    process.start(program, {function});
+    process.start(program, {test});
     const bool passed = process.waitForFinished() && process.exitStatus() == QProcess::NormalExit
         && process.exitCode() == 0;
     if (!passed) {
@@ -67,7 +72,7 @@ bool mayWriteEverything()
     return false;
 }
 
-bool passesAsOrdinaryUser(const QString&)
+bool passesAsOrdinaryUser()
 {
     return false;
 }

@@ -1,10 +1,15 @@
 #pragma once
 
-#include <QString>
-
 /// Whether this process may write everything (root), so that what others may not do cannot be tried in it.
 bool mayWriteEverything();
 
-/// Runs the test function `function` of this program once more as the user "nobody", in a working directory
-/// of that user's own; true when it passed there. What it printed is printed here when it did not.
-bool passesAsOrdinaryUser(const QString& function);
+/// Runs the running test function, with its row of data, once more as the user "nobody", in a working
+/// directory of that user's own; true when it passed there. What it printed is printed here when it did not.
+bool passesAsOrdinaryUser();
+
+/// The first line of a test of what root may do but others may not: it is tried as somebody else.
+#define AS_ORDINARY_USER()                                                                                   \
+    if (mayWriteEverything()) {                                                                              \
+        QVERIFY(passesAsOrdinaryUser());                                                                     \
+        return;                                                                                              \
+    }

@@ -181,6 +181,16 @@ QStringList ProgramTab::menuOf(QWidget& widget)
     return texts;
 }
 
+QPoint ProgramTab::menuPlace(QWidget& widget)
+{
+    QPoint place;
+    rightClick(widget, [&place](QMenu& menu) {
+        place = menu.pos();
+        menu.close();
+    });
+    return place;
+}
+
 void ProgramTab::click(const char* name)
 {
     QTest::mouseClick(&button(name), Qt::LeftButton);

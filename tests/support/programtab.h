@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QPoint>
 #include <QToolButton>
 #include <QVector>
 
@@ -54,6 +55,8 @@ public:
     bool pick(int row, RowEntry entry);
     /// Clicks `widget` with the right mouse button, closes the menu that opens, if any, and says its entries.
     static QStringList menuOf(QWidget& widget);
+    /// The same, and says where on the screen the menu's corner was.
+    static QPoint menuPlace(QWidget& widget);
 
     /// Clicks a button of the bar: "Run", "Pause", "Clear", "Check", "Load" or "Save".
     void click(const char* name);

@@ -42,10 +42,10 @@ QByteArray readable(const QByteArray& bytes)
     return text;
 }
 
-ScriptedAdapter::ScriptedAdapter()
+ScriptedAdapter::ScriptedAdapter(const QString& address)
 {
-    if (!server.listen(QHostAddress(ownLoopbackAddress()), adapterPort)) {
-        qFatal("cannot listen on %s: %s", qPrintable(ownLoopbackAddress()), qPrintable(server.errorString()));
+    if (!server.listen(QHostAddress(address), adapterPort)) {
+        qFatal("cannot listen on %s: %s", qPrintable(address), qPrintable(server.errorString()));
     }
     connect(&server, &QTcpServer::newConnection, this, &ScriptedAdapter::accept);
 }
@@ -54,7 +54,11 @@ void ScriptedAdapter::accept()
 {
     client = server.nextPendingConnection();
     client->setSocketOption(QAbstractSocket::LowDelayOption, 1);
-    connect(client, &QTcpSocket::readyRead, this, [this] { unread += client->readAll(); });
+    connect(client, &QTcpSocket::readyRead, this, [this] {
+        unread += client->readAll();
+        emit arrived();
+    });
+    connect(client, &QTcpSocket::disconnected, this, &ScriptedAdapter::clientLeft);
 }
 
 bool ScriptedAdapter::expect(const QByteArray& bytes)

@@ -22,10 +22,10 @@ class ScriptedAdapter : public QObject
     Q_OBJECT
 
 public:
-    /// Listens on ownLoopbackAddress(), port 1234.
-    ScriptedAdapter();
+    /// Listens on `address`, port 1234.
+    explicit ScriptedAdapter(const QString& address = ownLoopbackAddress());
 
-    QString address() const { return ownLoopbackAddress(); }
+    QString address() const { return server.serverAddress().toString(); }
     bool isConnected() const { return client != nullptr; }
 
     /// True when exactly `bytes` come next; waits 5 s for them at the most. On failure it prints what was
@@ -50,6 +50,10 @@ public:
 
     /// Cuts the connection; listening goes on.
     void cut();
+
+signals:
+    void arrived();
+    void clientLeft();
 
 private:
     void accept();

@@ -16,6 +16,13 @@ qint64 readDriven()
     return drivenNowMs;
 }
 
+// The timer that the event is for, where it belongs to no other object.
+const QTimer* ownTimer(QObject* receiver, QEvent* event)
+{
+    const auto* timer = event->type() == QEvent::Timer ? qobject_cast<QTimer*>(receiver) : nullptr;
+    return timer != nullptr && timer->parent() == nullptr ? timer : nullptr;
+}
+
 } // namespace
 
 HeldTicks::HeldTicks()
@@ -30,11 +37,26 @@ HeldTicks::~HeldTicks()
 
 bool HeldTicks::eventFilter(QObject* receiver, QEvent* event)
 {
-    if (event->type() != QEvent::Timer) {
-        return false;
+    const QTimer* timer = ownTimer(receiver, event);
+    return timer != nullptr && timer->interval() == 10;
+}
+
+FiredTimers::FiredTimers()
+{
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+bool FiredTimers::eventFilter(QObject* receiver, QEvent* event)
+{
+    if (const QTimer* timer = ownTimer(receiver, event)) {
+        fired[timer->interval()] = QString::number(timer->interval());
     }
-    const auto* timer = qobject_cast<QTimer*>(receiver);
-    return timer != nullptr && timer->interval() == 10 && timer->parent() == nullptr;
+    return false;
+}
+
+QString FiredTimers::intervals() const
+{
+    return QStringList(fired.values()).join(QLatin1Char(' '));
 }
 
 DrivenClock::DrivenClock(qint64 nowMs)

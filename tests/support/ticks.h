@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QMap>
 #include <QObject>
+#include <QString>
 
 /// While it lives, the station's 10 ms timers are silent: the test drives the ticks itself, by calling the
 /// timers' slots. Other timers run on.
@@ -14,6 +16,25 @@ public:
 
 protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;
+};
+
+/// Notes how often the station's timers fire, by their intervals: all that fire while it lives and belong to
+/// no other object, as a toolkit's own do.
+class FiredTimers : public QObject
+{
+    Q_OBJECT
+
+public:
+    FiredTimers();
+
+    /// In ms, ascending, each once: "10" or "10 100".
+    QString intervals() const;
+
+protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+
+private:
+    QMap<int, QString> fired; // the text of each
 };
 
 /// While it lives, the program's wall clock stands still and moves only by order.

@@ -2,9 +2,8 @@
 // moved.
 
 #include "support/files.h"
-#include "support/scriptedadapter.h"
+#include "support/panel.h"
 #include "support/testmain.h"
-#include "support/testtext.h"
 #include "system/handledstation.h"
 
 #include <QDir>
@@ -37,7 +36,7 @@ QStringList steppedClock()
 
 int recordLines()
 {
-    return fileText("TemperatureRec.dat"_s).count('\n');
+    return fileText(recordFile).count('\n');
 }
 
 // When the chamber's shutters moved, in s.
@@ -68,7 +67,7 @@ class ClockStepsTest : public QObject
         QVERIFY(station->answers());
     }
 
-    std::unique_ptr<Process> chamber;
+    std::unique_ptr<Chamber> chamber;
     std::unique_ptr<HandledStation> station;
 
 private slots:
@@ -78,9 +77,7 @@ private slots:
         QSKIP("needs libfaketime");
 #endif
         setClockBy(0);
-        chamber = std::make_unique<Process>(
-            QStringLiteral(CHAMBERSIM_PROGRAM), QStringList{"--listen"_s, ownLoopbackAddress()});
-        QVERIFY(chamber->waitForText("listening "_s));
+        chamber = std::make_unique<Chamber>();
         station = std::make_unique<HandledStation>(steppedClock());
         QVERIFY(station->isUp());
         // Temperatures are known, so that ramps start from them.
@@ -91,8 +88,8 @@ private slots:
     {
         station.reset();
         chamber.reset();
-        QFile::remove("TemperatureRec.dat"_s);
-        QFile::remove("NelvoCurrentStat.dat"_s);
+        QFile::remove(recordFile);
+        QFile::remove(stateFile);
     }
 
     void aRampSendsNoSetPointEarly_data()
@@ -105,16 +102,16 @@ private slots:
     void aRampSendsNoSetPointEarly()
     {
         QFETCH(int, seconds);
-        station->type("TDeg01"_s, "400"_s);
-        station->type("DTime01"_s, "10"_s);
-        station->click("RunT01"_s);
+        station->type(cell("TDeg", 0), "400"_s);
+        station->type(cell("DTime", 0), "10"_s);
+        station->click(cell("RunT", 0));
         QVERIFY(chamber->waitForText("setpoint 01"_s));
         step(seconds);
         QCOMPARE(chamber->output().count("setpoint"_s), 1);
-        QCOMPARE(station->text("RunT01"_s), "Stop"_s);
+        QCOMPARE(station->text(cell("RunT", 0)), "Stop"_s);
         // Its elapsed time goes on from where it was.
-        const double minutes = station->text("ETime01"_s).toDouble();
-        QVERIFY2(minutes >= 0.01 && minutes < 0.9, qPrintable(station->text("ETime01"_s)));
+        const double minutes = station->text(cell("ETime", 0)).toDouble();
+        QVERIFY2(minutes >= 0.01 && minutes < 0.9, qPrintable(station->text(cell("ETime", 0))));
     }
 
     void aProgramKeepsItsSteps_data()

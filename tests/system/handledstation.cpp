@@ -1,9 +1,12 @@
 #include "system/handledstation.h"
 
 #include "support/scriptedadapter.h"
+#include "support/testtext.h"
 
 #include <QElapsedTimer>
 #include <QtTest>
+
+using namespace TestText;
 
 namespace {
 
@@ -11,17 +14,25 @@ constexpr int patienceMs = 20000;
 
 } // namespace
 
+Chamber::Chamber(const QStringList& options)
+    : Process(QStringLiteral(CHAMBERSIM_PROGRAM), QStringList{"--listen"_s, ownLoopbackAddress()} + options)
+{
+    if (!waitForText("listening "_s)) {
+        qFatal("the simulator does not listen");
+    }
+}
+
 HandledStation::HandledStation(const QStringList& environment)
 {
-    const QString name = QStringLiteral("nelvo-hands-%1").arg(QCoreApplication::applicationPid());
+    const QString name = "nelvo-hands-%1"_s.arg(QCoreApplication::applicationPid());
     QLocalServer::removeServer(name);
     if (!server.listen(name)) {
         qFatal("no place for the hands: %s", qPrintable(server.errorString()));
     }
-    nelvo = std::make_unique<Process>(QStringLiteral(NELVO_PROGRAM), QStringList{QStringLiteral("-e")},
-        QStringList{QStringLiteral("NELVO_ADAPTER=") + ownLoopbackAddress(),
-            QStringLiteral("QT_QPA_PLATFORM=offscreen"), QStringLiteral("QT_QPA_GENERIC_PLUGINS=nelvohands"),
-            QStringLiteral("QT_PLUGIN_PATH=" NELVO_HANDS_PLUGINS), QStringLiteral("NELVO_HANDS=") + name}
+    nelvo = std::make_unique<Process>(QStringLiteral(NELVO_PROGRAM), QStringList{"-e"_s},
+        QStringList{"NELVO_ADAPTER="_s + ownLoopbackAddress(), "QT_QPA_PLATFORM=offscreen"_s,
+            "QT_QPA_GENERIC_PLUGINS=nelvohands"_s, QStringLiteral("QT_PLUGIN_PATH=" NELVO_HANDS_PLUGINS),
+            "NELVO_HANDS="_s + name}
             + environment);
 }
 
@@ -34,7 +45,7 @@ bool HandledStation::isUp()
     QElapsedTimer timer;
     timer.start();
     QString answer;
-    while (!tryToAsk({QStringLiteral("status")}, answer)) {
+    while (!tryToAsk({"status"_s}, answer)) {
         if (timer.elapsed() > patienceMs) {
             return false;
         }
@@ -45,7 +56,7 @@ bool HandledStation::isUp()
 bool HandledStation::answers()
 {
     QString answer;
-    return tryToAsk({QStringLiteral("status")}, answer);
+    return tryToAsk({"status"_s}, answer);
 }
 
 QString HandledStation::ask(const QStringList& words)
@@ -65,12 +76,12 @@ bool HandledStation::tryToAsk(const QStringList& words, QString& answer)
     timer.start();
     while (!hands->canReadLine()) {
         if (timer.elapsed() > patienceMs || hands->state() != QLocalSocket::ConnectedState) {
-            answer = QStringLiteral("no answer");
+            answer = "no answer"_s;
             return false;
         }
         hands->waitForReadyRead(50);
     }
     const QString line = QString::fromUtf8(hands->readLine().chopped(1));
     answer = line.section(QLatin1Char('\t'), 1);
-    return line.startsWith(QLatin1String("ok\t"));
+    return line.startsWith("ok\t"_s);
 }

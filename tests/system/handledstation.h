@@ -7,6 +7,13 @@
 
 #include <memory>
 
+/// The simulator, listening at ownLoopbackAddress().
+class Chamber : public Process
+{
+public:
+    explicit Chamber(const QStringList& options = {});
+};
+
 /// The program Nelvo as it is shipped, run for a test with an operator's hands in it (hands/): clicks, keys
 /// and looks from outside of its process.
 class HandledStation
@@ -25,6 +32,10 @@ public:
     void load(const QString& fname) { ask({QStringLiteral("load"), fname}); }
     QString text(const QString& name) { return ask({QStringLiteral("text"), name}); }
     QString style(const QString& name) { return ask({QStringLiteral("style"), name}); }
+    /// Closes the window, as the operator does.
+    void closeWindow() { ask({QStringLiteral("close")}); }
+    /// The style that the toolkit draws the window in: "fusion" and the like.
+    QString widgetStyle() { return ask({QStringLiteral("widgets")}); }
     QString status() { return ask({QStringLiteral("status")}); }
     /// What the system's clock says in the station's process, ms since the epoch.
     qint64 systemClockMs() { return ask({QStringLiteral("clock")}).toLongLong(); }

@@ -65,6 +65,14 @@ bool Process::isRunning()
     return process.state() == QProcess::Running;
 }
 
+int Process::exitCode()
+{
+    if (process.state() != QProcess::NotRunning && !process.waitForFinished(patienceMs)) {
+        return -1;
+    }
+    return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+}
+
 QString Process::output()
 {
     read();

@@ -26,6 +26,9 @@ public:
     void terminate();
 
     bool isRunning();
+    /// Waits until the program has ended by itself, and says what it ended with; -1 when it does not within
+    /// 20 s or was ended by a signal.
+    int exitCode();
     QString output();
     /// Forgets the output so far.
     void forget();

@@ -183,6 +183,35 @@ private slots:
         QCOMPARE(elapsed(0), "  10.00"_s);
     }
 
+    void elapsedTimeOfASecondRampBeginsAnew()
+    {
+        QVERIFY(station->open());
+        station->type(cell("TDeg", 0), "40"_s);
+        station->click(cell("RunT", 0));
+        DrivenClock::advance(150000);
+        station->tick();
+        QCOMPARE(elapsed(0), "   2.50"_s);
+        station->click(cell("RunT", 0));
+        DrivenClock::advance(60000);
+        station->click(cell("RunT", 0));
+        station->tick(10);
+        QCOMPARE(elapsed(0), "   0.00"_s);
+        DrivenClock::advance(30000);
+        station->tick(10);
+        QCOMPARE(elapsed(0), "   0.50"_s);
+    }
+
+    void thePollingTicksEveryTenMilliseconds()
+    {
+        station.reset();
+        Station::storeInUse({});
+        station = std::make_unique<Station>(Station::Time::Running);
+        QVERIFY(station->open());
+        const FiredTimers timers;
+        QTRY_VERIFY(Station::records() > 0);
+        QCOMPARE(timers.intervals(), "10"_s);
+    }
+
     void elapsedTimeStaysWhenARampIsStopped()
     {
         QVERIFY(station->open());

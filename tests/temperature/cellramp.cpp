@@ -91,6 +91,29 @@ private slots:
         QCOMPARE(station->setPoints.first().toHex().toUpper(), QByteArray("043035025331303132302E30037F0A"));
     }
 
+    void everyChannelShowsItsOwnSetPoint()
+    {
+        QVERIFY(station->open() && station->round());
+        QStringList targets;
+        for (int channel = 0; channel < Channels::count; ++channel) {
+            targets += QString::number(30 + channel);
+            station->pressRun(channel, targets.last(), "1"_s);
+        }
+        DrivenClock::advance(1);
+        QVERIFY(station->round() && station->round());
+        for (int channel = 0; channel < Channels::count; ++channel) {
+            QCOMPARE(station->text(cell("SDeg", channel)), targets[channel]);
+        }
+    }
+
+    void aSetPointIsShownWithSixDigits()
+    {
+        QVERIFY(start(3, 1200.0, "1234.5678"_s, "1"_s));
+        QVERIFY(minutes(1));
+        QCOMPARE(station->text(cell("SDeg", 3)), "1234.57"_s);
+        QCOMPARE(station->setPoints, messages(3, {"1234.6"}));
+    }
+
     void fourHoursEndOnTheTarget()
     {
         QVERIFY(start(0, 25.0, "1000"_s, "240"_s));

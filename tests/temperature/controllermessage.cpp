@@ -210,6 +210,14 @@ private slots:
         QCOMPARE(ControllerMessage::isReply(line.size(), line), accepted);
     }
 
+    void theLengthThatCameWithALineCounts()
+    {
+        QVERIFY(ControllerMessage::isReply(11, "short"));
+        QVERIFY(!ControllerMessage::isReply(10, "01M 0512.3E"));
+        QVERIFY(!ControllerMessage::isReply(3, "ER"));
+        QVERIFY(!ControllerMessage::isReply(2, "ERR"));
+    }
+
     void shownValues_data()
     {
         QTest::addColumn<QByteArray>("reply");

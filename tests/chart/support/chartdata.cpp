@@ -114,12 +114,12 @@ QVector<QPointF> points(const QString& kind, int channel, int count, double leng
 {
     Maker maker{channel, count, lengthSec, std::mt19937(static_cast<unsigned>(channel + 1))};
     const Make make = makers().value(kind);
-    QVector<QPointF> made;
-    made.reserve(count);
+    QVector<QPointF> series;
+    series.reserve(count);
     for (int i = 0; i < count; ++i) {
-        made.append(make(maker, i));
+        series.append(make(maker, i));
     }
-    return made;
+    return series;
 }
 
 } // namespace ChartData

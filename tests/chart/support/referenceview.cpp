@@ -4,6 +4,15 @@
 
 #include <cmath>
 
+namespace {
+
+bool isFinite(const QPointF& point)
+{
+    return std::isfinite(point.x()) && std::isfinite(point.y());
+}
+
+} // namespace
+
 ReferenceView::ReferenceView(QWidget* parent)
     : QFrame(parent)
     , colors{QColor(0, 0, 0), QColor(255, 0, 0), QColor(0, 255, 0), QColor(0, 0, 255), QColor(230, 230, 0),
@@ -48,8 +57,11 @@ void ReferenceView::drawSeries(QPainter& painter) const
         const QVector<QPointF>& points = series.at(i);
         int j = firstIndex(points, xMin);
         while (j < points.size() - 1) {
-            painter.drawLine(static_cast<int>(px(points.at(j).x())), static_cast<int>(py(points.at(j).y())),
-                static_cast<int>(px(points.at(j + 1).x())), static_cast<int>(py(points.at(j + 1).y())));
+            if (isFinite(points.at(j)) && isFinite(points.at(j + 1))) {
+                painter.drawLine(static_cast<int>(px(points.at(j).x())),
+                    static_cast<int>(py(points.at(j).y())), static_cast<int>(px(points.at(j + 1).x())),
+                    static_cast<int>(py(points.at(j + 1).y())));
+            }
             ++j;
             if (points.at(j).x() > xMax) {
                 break;

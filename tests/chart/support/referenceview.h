@@ -11,7 +11,8 @@
 /// The chart as a plain reading of its painting rules: every segment of every channel is drawn, one by one,
 /// nothing is gathered or left out. What the chart shows is compared with this, pixel for pixel.
 ///
-/// Everything is set by hand. Points must be finite and their pixels must fit an int.
+/// Everything is set by hand. The pixels of points must fit an int; a point that is not finite has no
+/// segments.
 class ReferenceView : public QFrame
 {
 public:

@@ -6,6 +6,7 @@
 #include <QMainWindow>
 #include <QPixmap>
 #include <QStatusBar>
+#include <QStyle>
 #include <QtTest>
 
 namespace {
@@ -55,6 +56,7 @@ void Hands::answerRequests()
     while (socket.canReadLine()) {
         const QString request = QString::fromUtf8(socket.readLine().chopped(1));
         socket.write(answer(request.split(QLatin1Char('\t'))).toUtf8() + '\n');
+        socket.flush(); // the window may have been the last thing to keep the program running
     }
 }
 
@@ -67,6 +69,12 @@ QString Hands::answer(const QStringList& words)
     const QString& verb = words[0];
     if (verb == QLatin1String("status")) {
         return ok(window->statusBar()->currentMessage());
+    }
+    if (verb == QLatin1String("widgets")) {
+        return ok(QApplication::style()->objectName());
+    }
+    if (verb == QLatin1String("close")) {
+        return window->close() ? ok() : error(QStringLiteral("the window stays"));
     }
     if (verb == QLatin1String("clock")) {
         return ok(QString::number(QDateTime::currentMSecsSinceEpoch()));

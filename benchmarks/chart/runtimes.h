@@ -1,5 +1,7 @@
 #pragma once
 
+#include "benchmarks/support/figures.h"
+
 #include <benchmark/benchmark.h>
 
 #include <map>
@@ -9,9 +11,14 @@
 constexpr double frameMs = 1000.0 / 60.0;
 
 /// Prints as usual and remembers each benchmark's time, so that ratios of one run can be told.
-class Figures : public benchmark::ConsoleReporter
+class RunTimes : public benchmark::ConsoleReporter
 {
 public:
+    RunTimes()
+        : ConsoleReporter(OO_Tabular)
+    {
+    }
+
     void ReportRuns(const std::vector<Run>& runs) override;
 
     bool has(const std::string& name) const { return timesMs.count(name) != 0; }
@@ -21,16 +28,11 @@ public:
     double slowest(const std::string& prefix) const;
     double counter(const std::string& name, const std::string& what) const;
 
-    /// The table of ratios against their targets, with the memory that was measured before.
-    void printTargets(double memoryMb) const;
-
-    /// A line of the table.
-    static void row(const char* what, double value, double target);
-
 private:
-    void ratio(const char* what, const std::string& ours, const std::string& other, double target) const;
-    void most(const char* what, const std::string& name, const std::string& counterName, double target) const;
-
     std::map<std::string, double> timesMs;
     std::map<std::string, std::map<std::string, double>> counters;
 };
+
+/// The ratios of `times` and what was counted in its runs, against their targets, with the memory that was
+/// measured before. What did not run is left out.
+void printTargets(const Figures& figures, const RunTimes& times, double memoryMb);

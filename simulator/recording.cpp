@@ -1,0 +1,68 @@
+#include "simulator/recording.h"
+
+#include "journal/journalline.h"
+
+#include <QFile>
+
+namespace Chamber {
+
+namespace {
+
+class Reader
+{
+public:
+    void take(const JournalLine& line)
+    {
+        const bool isCommand = line.kind == QLatin1String("sent");
+        if (line.kind == QLatin1String("start")) {
+            isNewRun = true;
+        }
+        if (!isCommand && line.kind != QLatin1String("received")) {
+            return;
+        }
+        if (isNewRun) {
+            found = Recording();
+            lastSec = line.elapsedSec;
+            isNewRun = false;
+        }
+        const QByteArray bytes = line.value(QStringLiteral("bytes")).toLatin1();
+        if (isCommand) {
+            found.commands += bytes;
+        } else {
+            found.replies.append({found.commands.size(), qMax(0.0, line.elapsedSec - lastSec), bytes});
+        }
+        lastSec = line.elapsedSec;
+    }
+
+    const Recording& recording() const { return found; }
+
+private:
+    Recording found;
+    bool isNewRun = true;
+    double lastSec = 0.0;
+};
+
+} // namespace
+
+std::optional<Recording> readRecording(const QString& name, QString& error)
+{
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly)) {
+        error = QStringLiteral("cannot read %1: %2").arg(name, file.errorString());
+        return std::nullopt;
+    }
+    Reader reader;
+    while (!file.atEnd()) {
+        if (const std::optional<JournalLine> line = readJournalLine(file.readLine())) {
+            reader.take(*line);
+        }
+    }
+    if (reader.recording().commands.isEmpty()) {
+        error = QStringLiteral("%1 holds no bytes; the station writes them with NELVO_JOURNAL=--wire")
+                    .arg(name);
+        return std::nullopt;
+    }
+    return reader.recording();
+}
+
+} // namespace Chamber

@@ -1,0 +1,153 @@
+// The shipped program under an operator's hands: it answers whatever the link does, and ends with its window.
+
+#include "support/files.h"
+#include "support/scriptedadapter.h"
+#include "support/station.h"
+#include "support/testmain.h"
+#include "system/handledstation.h"
+
+#include <QFile>
+
+using namespace TestText;
+
+namespace {
+
+QStringList words(const char* text)
+{
+    return QString::fromLatin1(text).split(QLatin1Char(' '));
+}
+
+std::unique_ptr<Process> newChamber(const QStringList& faults)
+{
+    auto chamber = std::make_unique<Process>(QStringLiteral(CHAMBERSIM_PROGRAM),
+        QStringList{"--listen"_s, ownLoopbackAddress(), "--seed"_s, "7"_s} + faults);
+    if (!chamber->waitForText("listening "_s)) {
+        qFatal("the simulator does not listen");
+    }
+    return chamber;
+}
+
+} // namespace
+
+class StationHandsTest : public QObject
+{
+    Q_OBJECT
+
+    // A sign of life: the window does what a click asks for.
+    void expectAnAnsweredClick()
+    {
+        QCOMPARE(station->text(cell("NS", 3)), "Close"_s);
+        station->click(cell("NS", 3));
+        QCOMPARE(station->text(cell("NS", 3)), "Open"_s);
+    }
+
+    // Another one: time goes on in it. Without a cell in use a polling round needs no instrument.
+    void expectRecords()
+    {
+        for (int channel = 0; channel < Channels::count; ++channel) {
+            station->click(cell("TCActive", channel));
+        }
+        const int records = Station::records();
+        QVERIFY(station->process().waitFor(
+            [records](const QString&) { return Station::records() > records + 1; }));
+    }
+
+    void expectSilence()
+    {
+        for (const char* warning : {"QIODevice", "QNativeSocketEngine", "QAbstractSocket"}) {
+            QVERIFY2(!station->process().output().contains(QLatin1String(warning)), warning);
+        }
+    }
+
+    std::unique_ptr<HandledStation> station;
+
+private slots:
+    void cleanup()
+    {
+        station.reset();
+        QFile::remove(recordFile);
+        QFile::remove(stateFile);
+    }
+
+    void livesOnWhenRepliesStop_data()
+    {
+        QTest::addColumn<QStringList>("faults");
+        QTest::newRow("lost") << words("--fault lost=0.1");
+        QTest::newRow("late") << words("--fault late=0.3");
+        QTest::newRow("silent") << words("--fault silent=0.1");
+        QTest::newRow("half-open") << words("--fault half-open=0.1");
+    }
+
+    void livesOnWhenRepliesStop()
+    {
+        QFETCH(QStringList, faults);
+        const std::unique_ptr<Process> chamber = newChamber(faults);
+        station = std::make_unique<HandledStation>();
+        QVERIFY(station->isUp());
+        QVERIFY(chamber->waitForText("fault "_s));
+        chamber->terminate();
+        station->click("AllCloseB"_s);
+        expectAnAnsweredClick();
+        expectSilence();
+    }
+
+    void livesOnWhenItsConnectionIsCut()
+    {
+        const std::unique_ptr<Process> chamber = newChamber(words("--fault cut=0.2"));
+        station = std::make_unique<HandledStation>();
+        QVERIFY(station->isUp());
+        QVERIFY(chamber->waitForText("disconnected"_s));
+        QVERIFY(station->process().waitFor(
+            [](const QString&) { return fileText("NelvoJournal.log"_s).contains("\tlost\t"); }));
+        station->click("AllCloseB"_s);
+        station->click(cell("CS", 0));
+        expectAnAnsweredClick();
+        expectRecords();
+        expectSilence();
+    }
+
+    void livesWithoutAnAdapter()
+    {
+        station = std::make_unique<HandledStation>();
+        QVERIFY(station->isUp());
+        station->click("AllCloseB"_s);
+        expectAnAnsweredClick();
+        expectSilence();
+    }
+
+    void looksTheSameEverywhere()
+    {
+        station = std::make_unique<HandledStation>(QStringList{"QT_STYLE_OVERRIDE="_s});
+        QVERIFY(station->isUp());
+        QCOMPARE(station->widgetStyle(), "fusion"_s);
+    }
+
+    void endsWithItsWindowAndSendsNothing_data()
+    {
+        QTest::addColumn<QString>("dialog");
+        QTest::newRow("alone") << QString();
+        QTest::newRow("the load dialog open") << "ProgLoad"_s;
+        QTest::newRow("the save dialog open") << "ProgSave"_s;
+    }
+
+    void endsWithItsWindowAndSendsNothing()
+    {
+        QFETCH(QString, dialog);
+        ScriptedAdapter adapter;
+        Station::storeInUse({});
+        station = std::make_unique<HandledStation>();
+        QVERIFY(station->isUp());
+        QVERIFY(adapter.expect(Wire::opening));
+        station->click(cell("CS", 2));
+        QVERIFY(adapter.expect(Wire::shutters(0x04)));
+        if (!dialog.isEmpty()) {
+            station->click(dialog);
+        }
+        station->closeWindow();
+        QCOMPARE(station->process().exitCode(), 0);
+        QVERIFY(adapter.expectNothing());
+    }
+};
+
+NELVO_TEST_MAIN(StationHandsTest)
+#include "stationhands.moc"
