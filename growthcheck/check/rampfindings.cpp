@@ -37,20 +37,20 @@ public:
                     "The cell is at its set point %1 already: the ramp has no rate, never ends by itself "
                     "and sends the same again every minute.")
                     .arg(shown(targetDegC)));
+        } else if (ramp.replacedBy >= 0 && !looksEqual(ramp.lastDegC, targetDegC)) {
+            tell(Kinds::rampReplaced, timeline.steps[ramp.replacedBy], ramp,
+                Words::tr("A new ramp begins while that of step %1 still runs: it has got to %2 of %3 deg C.")
+                    .arg(QString::number(step.row + 1), shown(ramp.lastDegC), shown(targetDegC)));
         } else if (ramp.outlastsStep && !looksEqual(ramp.stepEndDegC, targetDegC)) {
             tell(Kinds::rampOutlastsStep, step, ramp,
-                Words::tr("The ramp to %1 deg C still runs when the step ends: it has got to %2.")
+                Words::tr("The ramp to %1 deg C may still run when the step ends, and be cut short by the "
+                          "next one: it has got to %2 by then.")
                     .arg(shown(targetDegC), shown(ramp.stepEndDegC)));
         } else if (ramp.extraDueMs >= 0 || ramp.outlastsStep) {
             tell(Kinds::extraSetPoint, step, ramp,
                 Words::tr("The ramp may send %1 deg C once more when the step is over: a rounding, and no "
                           "change.")
                     .arg(shown(targetDegC)));
-        }
-        if (ramp.replacedBy >= 0 && ramp.plan.rate != 0.0 && !looksEqual(ramp.lastDegC, targetDegC)) {
-            tell(Kinds::rampReplaced, timeline.steps[ramp.replacedBy], ramp,
-                Words::tr("A new ramp begins while that of step %1 still runs: it has got to %2 of %3 deg C.")
-                    .arg(QString::number(step.row + 1), shown(ramp.lastDegC), shown(targetDegC)));
         }
     }
 

@@ -35,7 +35,8 @@ void checkLength(const Timeline& timeline, Findings& findings)
     const QString place = elapsedText(last.startMs);
     if (timeline.stop == Timeline::Stop::TooLong) {
         tell(findings, Kinds::endlessStep, last.row,
-            Words::tr("The step begins after %1 and does not end within a million years.").arg(place));
+            Words::tr("The step begins after %1, and it or its repeats do not end within a million years.")
+                .arg(place));
         return;
     }
     if (timeline.stop == Timeline::Stop::TooMuch) {
@@ -97,9 +98,12 @@ void checkRampsAtEnd(const Timeline& timeline, Findings& findings)
     }
 }
 
-void checkHeatAtEnd(const Timeline& timeline, Findings& findings)
+void checkHeatAtEnd(const Timeline& timeline, const Assumptions& assumptions, Findings& findings)
 {
-    QVector<double> degC(Channels::count, 0.0);
+    QVector<double> degC;
+    for (const Assumptions::Start& start : assumptions.starts) {
+        degC.append(start.degC);
+    }
     for (const PlannedStep& step : timeline.steps) {
         for (const PlannedSetPoint& setPoint : step.setPoints) {
             degC[setPoint.channel] = setPoint.degC;
@@ -116,14 +120,14 @@ void checkHeatAtEnd(const Timeline& timeline, Findings& findings)
     }
     if (!hot.isEmpty()) {
         tell(findings, Kinds::hotAtEnd, timeline.steps.constLast().row,
-            Words::tr("The set points stay when the program is over: %1 deg C.")
+            Words::tr("These stay hot when the program is over: %1 deg C.")
                 .arg(hot.join(QLatin1String(", "))));
     }
 }
 
 } // namespace
 
-Findings checkTimeline(const Timeline& timeline)
+Findings checkTimeline(const Timeline& timeline, const Assumptions& assumptions)
 {
     Findings findings;
     checkRamps(timeline, findings);
@@ -131,7 +135,7 @@ Findings checkTimeline(const Timeline& timeline)
     if (timeline.stop == Timeline::Stop::AtEnd && !timeline.steps.isEmpty()) {
         checkShuttersAtEnd(timeline, findings);
         checkRampsAtEnd(timeline, findings);
-        checkHeatAtEnd(timeline, findings);
+        checkHeatAtEnd(timeline, assumptions, findings);
     }
     return findings;
 }

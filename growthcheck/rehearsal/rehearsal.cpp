@@ -44,7 +44,7 @@ private:
         if (tick.ended) {
             finishStep(tick);
         }
-        if (tick.isOver) {
+        if (tick.isOver || timeline.stop != Timeline::Stop::AtEnd) {
             return false;
         }
         if (tick.ended == BlockCursor::Move::Repeat) {
@@ -68,6 +68,9 @@ private:
         step.setPoints = cells.advance(nowMs, replaced, mostSetPoints - setPoints);
         step.endMs = nowMs;
         setPoints += step.setPoints.size();
+        if (setPoints >= mostSetPoints) {
+            timeline.stop = Timeline::Stop::TooMuch;
+        }
     }
 
     void beginStep(const StepPlan& plan)
@@ -92,15 +95,12 @@ private:
 
     bool goOn()
     {
-        if (timeline.steps.size() >= mostSteps || setPoints >= mostSetPoints) {
+        if (timeline.steps.size() >= mostSteps) {
             timeline.stop = Timeline::Stop::TooMuch;
-            return false;
-        }
-        if (1000.0 * player.stepTime > static_cast<double>(longestMs - nowMs)) {
+        } else if (1000.0 * player.stepTime > static_cast<double>(longestMs - nowMs)) {
             timeline.stop = Timeline::Stop::TooLong;
-            return false;
         }
-        return true;
+        return timeline.stop == Timeline::Stop::AtEnd;
     }
 
     // The tick that ends the step that plays; the operator goes on from a hold after a while.
@@ -135,7 +135,9 @@ private:
         const bool isAlike = standing == passStanding;
         const bool hasRoom = static_cast<double>(left) * static_cast<double>(periodMs)
             < static_cast<double>(longestMs - nowMs);
-        if (isAlike && left >= fewestFolded && hasRoom) {
+        if (isAlike && !hasRoom) {
+            timeline.stop = Timeline::Stop::TooLong;
+        } else if (isAlike && left >= fewestFolded) {
             fold(firstPass, periodMs);
         }
         beginPass(standing);

@@ -116,6 +116,7 @@ PlannedSetPoint RehearsedCells::send(int channel, qint64 untilMs, bool isReplace
     plan.end = cell.ramp.cellRunning ? PlannedRamp::End::Runs : PlannedRamp::End::Reached;
     if (!setPoint.isSure && 2 * leftMs < roundMs) {
         plan.end = PlannedRamp::End::Replaced;
+        plan.replacedBy = timeline.steps.size(); // the step that begins next
         return setPoint;
     }
     ++plan.sent;
