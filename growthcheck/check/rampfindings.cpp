@@ -62,8 +62,8 @@ private:
             break;
         case PlannedRamp::From::Lagging:
             tell(Kinds::startLagging, step, ramp,
-                Words::tr("The ramp begins so soon after the last set point that the panel may still show "
-                          "what was before: %1 deg C is taken for its start.")
+                Words::tr("The ramp begins so soon after another one that the panel may still show what was "
+                          "before: %1 deg C is taken for its start.")
                     .arg(shown(ramp.plan.currentDegC)));
             break;
         case PlannedRamp::From::NotTold:

@@ -72,7 +72,7 @@ PlannedRamp::From RehearsedCells::fromOf(const Cell& cell, qint64 nowMs) const
     }
     // One round until it is sent, another until it is read.
     const bool isLagging = cell.hasSent && nowMs - cell.lastDueMs < 2 * roundMs;
-    return isLagging ? PlannedRamp::From::Lagging : PlannedRamp::From::Known;
+    return isLagging || !cell.isSure ? PlannedRamp::From::Lagging : PlannedRamp::From::Known;
 }
 
 QVector<PlannedSetPoint> RehearsedCells::advance(qint64 untilMs, const QVector<int>& channels, int limit)
@@ -104,6 +104,8 @@ PlannedSetPoint RehearsedCells::send(int channel, qint64 untilMs, bool isReplace
     const qint64 leftMs = untilMs - setPoint.dueMs;
     setPoint.isSure = !isReplaced || leftMs >= roundMs;
     setPoint.degC = cell.ramp.step(readNumber(cell.target).value_or(0.0));
+    const bool changesNothing = cell.isSure && cell.shown == shownAfter(setPoint.degC);
+    cell.isSure = setPoint.isSure || changesNothing;
     if (cell.step == timeline.steps.size() - 1) {
         plan.outlastsStep = !setPoint.isSure;
         plan.stepEndDegC = setPoint.isSure ? setPoint.degC : plan.stepEndDegC;
@@ -166,6 +168,7 @@ QString RehearsedCells::standing(qint64 nowMs, qint64 passStartMs) const
     for (const Cell& cell : cells) {
         texts.append(QString::number(static_cast<int>(cell.kind)));
         texts.append(cell.shown);
+        texts.append(QLatin1String(cell.isSure ? "sure" : "perhaps"));
         if (cell.hasSent && nowMs - cell.lastDueMs < 2 * roundMs) {
             add(static_cast<double>(nowMs - cell.lastDueMs));
         }

@@ -43,6 +43,7 @@ private:
         QString target;
         qint64 lastDueMs = 0;
         bool hasSent = false;
+        bool isSure = true; // whether the last set point that was due was sent
         int step = -1; // where its ramp stands in the timeline
         int index = -1;
     };

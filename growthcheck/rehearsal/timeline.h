@@ -22,7 +22,7 @@ struct PlannedRamp
 {
     enum class From {
         Known, ///< a temperature that was told, or where a ramp before has led to
-        Lagging, ///< led there so shortly before that the panel may not show it yet
+        Lagging, ///< led there, but perhaps not yet: the panel may show what was before
         NotTold, ///< nobody said: counted as 0, like None
         None, ///< the panel shows none, which the station counts as 0
     };

@@ -233,7 +233,9 @@ private slots:
             const qint64 runMs = play(random);
             QVERIFY2(!program().isRunning(), qPrintable("seed %1 does not end"_s.arg(seed)));
             const QString found = compare(timeline, random, runMs);
-            QVERIFY2(found.isEmpty(), qPrintable("seed %1: %2"_s.arg(seed).arg(found)));
+            QVERIFY2(found.isEmpty(),
+                qPrintable("seed %1: %2\n%3"_s.arg(seed).arg(
+                    found, QString::fromUtf8(fileText("predicted.dat"_s)))));
         }
     }
 };
