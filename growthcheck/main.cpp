@@ -1,4 +1,3 @@
-#include "growthcheck/app/options.h"
 #include "growthcheck/app/session.h"
 
 #include <QCoreApplication>
@@ -23,15 +22,5 @@ int main(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("growthcheck"));
-    const QStringList arguments = QCoreApplication::arguments();
-    const GrowthCheck::CommandLine commandLine = GrowthCheck::readCommandLine(arguments, false);
-    if (!commandLine.error.isEmpty()) {
-        complain(commandLine.error);
-        return GrowthCheck::Usage;
-    }
-    if (!commandLine.text.isEmpty()) {
-        writeOut(commandLine.text.toUtf8());
-        return GrowthCheck::Clean;
-    }
-    return GrowthCheck::run(commandLine.options, {&writeOut, &complain});
+    return GrowthCheck::runCommandLine(QCoreApplication::arguments(), false, {&writeOut, &complain});
 }

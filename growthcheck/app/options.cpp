@@ -40,10 +40,8 @@ constexpr OutputName outputNames[] = {
 void defineOptions(QCommandLineParser& parser)
 {
     parser.setApplicationDescription(
-        Words::tr("Says what the station will do with a growth program, and, compared with its journal, what "
-                  "it did.\n\n"
-                  "growthcheck [options] PROGRAM.dat ...\n"
-                  "growthcheck compare [options] PROGRAM.dat JOURNAL"));
+        Words::tr("Says what the station will do with a growth program, and, compared with its\n"
+                  "journal, what it did."));
     parser.addOptions({
         {startName,
             Words::tr("A channel's temperature at the start, deg C, or \"none\" for one that the "
@@ -70,6 +68,21 @@ void defineOptions(QCommandLineParser& parser)
         {QStringList({QStringLiteral("v"), QStringLiteral("version")}),
             Words::tr("Shows the version and ends.")},
     });
+}
+
+QString manual(const QCommandLineParser& parser)
+{
+    const QString usage = QStringLiteral("growthcheck [options] PROGRAM.dat ...\n"
+                                         "growthcheck compare [options] PROGRAM.dat JOURNAL\n");
+    const QString statuses
+        = Words::tr("Exit status:\n"
+                    "  0   nothing was found, or notes only\n"
+                    "  1   something was found that is a warning or an error; compare: shutters\n"
+                    "      or set points were not as planned\n"
+                    "  2   a file cannot be read or written\n"
+                    "  64  the command line is wrong\n");
+    // Without the parser's own line of usage, which knows one form only.
+    return usage + parser.helpText().section(QLatin1Char('\n'), 1) + QLatin1Char('\n') + statuses;
 }
 
 QString wrongValue(const QString& option, const QString& value, const QString& wanted)
@@ -227,7 +240,7 @@ CommandLine readCommandLine(const QStringList& arguments, bool isFromDesktop)
         return result;
     }
     if (parser.isSet(QStringLiteral("help"))) {
-        result.text = parser.helpText();
+        result.text = manual(parser);
         return result;
     }
     if (parser.isSet(QStringLiteral("version"))) {

@@ -135,9 +135,18 @@ private:
 
 } // namespace
 
-ExitStatus run(const Options& options, const Outlets& outlets)
+ExitStatus runCommandLine(const QStringList& arguments, bool isFromDesktop, const Outlets& outlets)
 {
-    return Session(options, outlets).check();
+    const CommandLine commandLine = readCommandLine(arguments, isFromDesktop);
+    if (!commandLine.error.isEmpty()) {
+        outlets.complain(commandLine.error);
+        return Usage;
+    }
+    if (!commandLine.text.isEmpty()) {
+        outlets.out(commandLine.text.toUtf8());
+        return Clean;
+    }
+    return Session(commandLine.options, outlets).check();
 }
 
 } // namespace GrowthCheck

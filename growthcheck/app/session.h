@@ -23,7 +23,7 @@ struct Outlets
     std::function<void(const QString& line)> complain;
 };
 
-/// Does what `options` ask for.
-ExitStatus run(const Options& options, const Outlets& outlets);
+/// Does what the command line asks for, the program's name first. `isFromDesktop` says that nobody typed it.
+ExitStatus runCommandLine(const QStringList& arguments, bool isFromDesktop, const Outlets& outlets);
 
 } // namespace GrowthCheck

@@ -11,7 +11,7 @@ void addOnce(Findings& findings, const Finding& finding)
             && other.channel == finding.channel;
     });
     if (same != findings.end()) {
-        ++same->count;
+        same->count += finding.count;
         return;
     }
     findings.append(finding);

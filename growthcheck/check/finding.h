@@ -27,7 +27,7 @@ struct Finding
     int step = 0; ///< as the table numbers it, counted from 1; 0 for none
     int pass = 0; ///< of a group, counted from 1; 0 for none, or for all
     int channel = -1; ///< see base/channels.h; -1 for none
-    int count = 1; ///< how often; the step and the pass are those of the first time
+    qint64 count = 1; ///< how often; the step and the pass are those of the first time
 
     bool matters() const { return kind.severity >= Severity::Warning; }
 };

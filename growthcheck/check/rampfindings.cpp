@@ -23,8 +23,10 @@ public:
     {
     }
 
-    void check(const PlannedStep& step, const PlannedRamp& ramp)
+    // A ramp of a step that is played `times` times alike.
+    void check(const PlannedStep& step, const PlannedRamp& ramp, qint64 times)
     {
+        count = times;
         checkStart(step, ramp);
         if (ramp.end == PlannedRamp::End::Refused) {
             checkRefusal(step, ramp);
@@ -119,11 +121,13 @@ private:
         finding.pass = step.times > 1 ? step.pass : 0;
         finding.channel = ramp.channel;
         finding.text = text;
+        finding.count = count;
         addOnce(findings, finding);
     }
 
     const Timeline& timeline;
     Findings& findings;
+    qint64 count = 1;
 };
 
 } // namespace
@@ -136,9 +140,10 @@ bool looksEqual(double one, double other)
 void checkRamps(const Timeline& timeline, Findings& findings)
 {
     RampCheck check(timeline, findings);
-    for (const PlannedStep& step : timeline.steps) {
+    for (int index = 0; index < timeline.steps.size(); ++index) {
+        const PlannedStep& step = timeline.steps[index];
         for (const PlannedRamp& ramp : step.ramps) {
-            check.check(step, ramp);
+            check.check(step, ramp, timeline.timesAlike(index));
         }
     }
 }

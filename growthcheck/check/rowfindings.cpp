@@ -180,10 +180,10 @@ private:
         }
         if (end + 1 < used) {
             tell(Kinds::rowNotReached, end + 1,
-                Words::tr("Steps %1 to %2 are never reached: the program ends at step %3, whose time is 0.")
-                    .arg(end + 2)
-                    .arg(used)
-                    .arg(end + 1));
+                Words::tr("The program ends at step %1, whose time is 0: what follows up to step %2 is never "
+                          "reached.")
+                    .arg(end + 1)
+                    .arg(used));
         }
     }
 

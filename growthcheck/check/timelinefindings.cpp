@@ -51,7 +51,7 @@ void checkLength(const Timeline& timeline, Findings& findings)
     if (std::abs(playedSec - timeline.shownTotalSec) >= worthTellingSec) {
         tell(findings, Kinds::totalTime, -1,
             Words::tr("The station shows a total of %1 s and plays %2 s: every step begins up to 10 ms late, "
-                      "waits at holds are not counted, and step 200 is left out.")
+                      "and waits at holds are not counted.")
                 .arg(timeline.shownTotalSec, 0, 'f', 1)
                 .arg(playedSec, 0, 'f', 1));
     }

@@ -21,7 +21,7 @@ QString elapsedText(qint64 ms)
     return days == 0 ? time : Words::tr("%1 d %2").arg(QString::number(days), time);
 }
 
-QString elapsedText(qint64 ms, int holds)
+QString elapsedText(qint64 ms, qint64 holds)
 {
     const QString time = elapsedText(ms);
     return holds == 0 ? time : Words::tr("%1 + operator").arg(time);

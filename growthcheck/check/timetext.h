@@ -9,7 +9,7 @@ namespace GrowthCheck {
 QString elapsedText(qint64 ms);
 
 /// `elapsedText` with the operator's waits that come on top: "0:03:07.01 + operator".
-QString elapsedText(qint64 ms, int holds);
+QString elapsedText(qint64 ms, qint64 holds);
 
 /// The time of day `ms` after `start`: "06:13:07", on another day with its date in front. Empty when `start`
 /// is not valid.

@@ -24,7 +24,7 @@ struct Event
 {
     QString name;
     qint64 ms = 0;
-    int holds = 0;
+    qint64 holds = 0;
     QString step;
     QString pass;
     QString group;
@@ -62,7 +62,7 @@ public:
         addSetPoints(step.setPoints, step.holdsBefore);
     }
 
-    void addSetPoints(const QVector<PlannedSetPoint>& setPoints, int holds)
+    void addSetPoints(const QVector<PlannedSetPoint>& setPoints, qint64 holds)
     {
         for (const PlannedSetPoint& setPoint : setPoints) {
             Event event;
@@ -81,6 +81,7 @@ public:
         Event event;
         event.name = QStringLiteral("repeat");
         event.ms = fold.startMs;
+        event.holds = checked.timeline.holdsBefore(fold);
         event.pass = QString::number(fold.firstPass);
         event.seconds = secondsText(fold.periodMs);
         event.detail = QStringLiteral("%1 passes like the one before").arg(fold.passes);

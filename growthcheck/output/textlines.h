@@ -16,7 +16,7 @@ QString padded(const QString& text, int columns);
 QString rightAligned(const QString& text, int columns);
 
 /// `text` as lines that fit a report, each ended by LF, all but the first `indent` columns in; the first one
-/// goes on behind `head`, which is as wide or less.
+/// goes on behind `head`.
 QString wrapped(const QString& head, const QString& text, int indent);
 
 } // namespace GrowthCheck

@@ -16,6 +16,7 @@ constexpr int mostListed = 2000; // steps
 constexpr int mostSetPoints = 24; // of a ramp
 constexpr int shownFirst = 6; // of those of a longer one
 constexpr int rampIndent = 6;
+constexpr int layerIndent = 15;
 
 QString degrees(double degC)
 {
@@ -47,20 +48,18 @@ public:
 
     QString step(const PlannedStep& step)
     {
-        QString text = lead(step.startMs, step.holdsBefore);
-        text += rightAligned(QString::number(step.row + 1), stepColumns) + QLatin1Char(' ');
-        text += padded(passText(step), passColumns) + QLatin1Char(' ');
-        text += shutterLetters(step.plan.shutters) + QLatin1Char(' ') + openNames(step.plan.shutters);
+        QString head = lead(step.startMs, step.holdsBefore);
+        head += rightAligned(QString::number(step.row + 1), stepColumns) + QLatin1Char(' ');
+        head += padded(passText(step), passColumns) + QLatin1Char(' ');
+        head += shutterLetters(step.plan.shutters) + QLatin1Char(' ');
+        QStringList words{openNames(step.plan.shutters)};
         if (step.plan.kind == StepPlan::Kind::Hold) {
-            text += QLatin1String("  ") + Words::tr("+ operator");
+            words.append(Words::tr("+ operator"));
         }
         if (!step.group.isEmpty()) {
-            text += QLatin1String("  ") + quoted(step.group);
+            words.append(quoted(step.group));
         }
-        while (text.endsWith(QLatin1Char(' '))) {
-            text.chop(1);
-        }
-        text += QLatin1Char('\n');
+        QString text = wrapped(head, words.join(QLatin1String("  ")), rampIndent);
         QSet<int> told;
         for (const PlannedRamp& ramp : step.ramps) {
             told.insert(ramp.channel);
@@ -72,11 +71,12 @@ public:
     QString fold(const Fold& fold)
     {
         const qint64 allMs = fold.passes * fold.periodMs;
+        const qint64 holds = checked.timeline.holdsBefore(fold) + fold.passes * fold.holds;
         return wrapped(QStringLiteral("  "),
             Words::tr("... passes %1 to %2 alike: %3 x %4, until %5")
                 .arg(QString::number(fold.firstPass), QString::number(fold.firstPass + fold.passes - 1),
                     QString::number(fold.passes), elapsedText(fold.periodMs, fold.holds),
-                    elapsedText(fold.startMs + allMs)),
+                    elapsedText(fold.startMs + allMs, holds)),
             rampIndent);
     }
 
@@ -95,7 +95,7 @@ private:
     static constexpr int passColumns = 9;
 
     // Clock and elapsed time; on a new day its date in a line before.
-    QString lead(qint64 ms, int holds)
+    QString lead(qint64 ms, qint64 holds)
     {
         QString text;
         if (runAt.isValid()) {
@@ -187,14 +187,12 @@ QString layerLine(const LayerBlock& block, const Layer& layer)
     const QString passes = block.passes > 1 ? QStringLiteral("%1 x").arg(block.passes) : QString();
     QString line = step + QLatin1Char(' ') + rightAligned(passes, 8) + QLatin1Char(' ') + layer.shutters
         + QLatin1Char(' ') + rightAligned(secondsText(layer.timeMs), 12) + QLatin1String("  ")
-        + padded(layer.material, 22) + rightAligned(layer.nm > 0.0 ? nmText(layer.nm) : QString(), 12);
-    if (layer.isHold) {
-        line += QLatin1Char(' ') + Words::tr("+ operator");
-    }
+        + padded(layer.material, 22) + rightAligned(layer.nm > 0.0 ? nmText(layer.nm) : QString(), 10);
     while (line.endsWith(QLatin1Char(' '))) {
         line.chop(1);
     }
-    return line + QLatin1Char('\n');
+    line += QLatin1Char('\n');
+    return layer.isHold ? line + wrapped(QString(), Words::tr("+ operator"), layerIndent) : line;
 }
 
 } // namespace

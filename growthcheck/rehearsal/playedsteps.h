@@ -13,7 +13,7 @@ struct PlayedStep
     qint64 startMs;
     qint64 endMs;
     int pass; ///< of its group, counted from 1
-    int holdsBefore;
+    qint64 holdsBefore;
     QVector<PlannedSetPoint> setPoints; ///< due in it
 };
 

@@ -186,6 +186,15 @@ const Fold* Timeline::foldAfter(int index) const
     return nullptr;
 }
 
+qint64 Timeline::timesAlike(int index) const
+{
+    qint64 times = 1;
+    for (const Fold& fold : folds) {
+        times += fold.firstStep <= index && index <= fold.lastStep ? fold.passes : 0;
+    }
+    return times;
+}
+
 Timeline rehearse(const QVector<ProgramStep>& steps, const Assumptions& assumptions)
 {
     return Rehearsal(steps, assumptions).play();

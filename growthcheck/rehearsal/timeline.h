@@ -59,7 +59,7 @@ struct PlannedStep
     StepPlan plan;
     qint64 startMs = 0;
     qint64 endMs = 0; ///< when the next one starts
-    int holdsBefore = 0; ///< how often the operator was waited for until the start
+    qint64 holdsBefore = 0; ///< how often the operator was waited for until the start
     QVector<PlannedRamp> ramps;
     QVector<PlannedSetPoint> setPoints; ///< due in the step, in the order of their times
 };
@@ -73,7 +73,7 @@ struct Fold
     int passes = 0;
     qint64 startMs = 0; ///< of the first of them
     qint64 periodMs = 0; ///< how long each takes
-    int holds = 0; ///< in each
+    qint64 holds = 0; ///< in each
     /// Of ramps without a rate that began before: the first set point from `startMs` on; the same goes out
     /// every minute.
     QVector<PlannedSetPoint> levels;
@@ -92,12 +92,16 @@ struct Timeline
     QVector<Fold> folds; ///< in the order of their times
     Stop stop = Stop::AtEnd;
     qint64 endMs = 0;
-    int holds = 0;
+    qint64 holds = 0;
     qint64 starts = 0; ///< of steps, folded ones counted
     QVector<PlannedSetPoint> tail; ///< sent after the end by the ramps that still run
     QVector<bool> endlessAtEnd; ///< channels whose ramp has no rate and goes on for ever
     double shownTotalSec = 0.0; ///< what the station shows
 
+    /// How often the operator was waited for until a fold's first pass.
+    qint64 holdsBefore(const Fold& fold) const { return steps[fold.firstStep].holdsBefore + fold.holds; }
+    /// How often the step at `index` is played alike: once, and in the passes that are folded onto it.
+    qint64 timesAlike(int index) const;
     /// The fold behind the step at `index`, if there is one.
     const Fold* foldAfter(int index) const;
 };
