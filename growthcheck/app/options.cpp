@@ -219,6 +219,9 @@ QString readFiles(const QStringList& arguments, Options& options)
             return Words::tr("compare wants a program and a journal");
         }
         options.journal = options.programs.takeLast();
+        if (options.output == Options::Output::Vcd || options.output == Options::Output::Wire) {
+            return Words::tr("compare has no --vcd and no --wire");
+        }
     } else if (options.programs.isEmpty()) {
         return Words::tr("no program is named");
     }

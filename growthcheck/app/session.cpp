@@ -2,6 +2,7 @@
 
 #include "growthcheck/check/check.h"
 #include "growthcheck/check/words.h"
+#include "growthcheck/comparison/compare.h"
 #include "growthcheck/output/output.h"
 #include "growthcheck/rehearsal/starttemperatures.h"
 
@@ -31,19 +32,46 @@ public:
             return CannotRead;
         }
         for (const QString& fileName : options.programs) {
-            const std::optional<LoadedProgram> program = loadProgram(fileName);
+            const std::optional<LoadedProgram> program = loadOne(fileName);
             if (program) {
                 programs.append(checkProgram(*program, assumptions, rates));
-            } else {
-                outlets.complain(cannotRead(fileName,
-                    Words::tr("it is missing, no plain file, larger than 16 MiB, or not to be opened")));
             }
         }
         write();
         return status();
     }
 
+    ExitStatus compareRun()
+    {
+        const QString& fileName = options.programs.constFirst();
+        const std::optional<LoadedProgram> program = loadOne(fileName);
+        std::optional<Rates> rates;
+        if (!program || !readRates(rates)) {
+            return CannotRead;
+        }
+        const RecordedRuns runs = readRun(options.journal, options.run, program->steps);
+        if (!isRead(options.journal, runs.wrong)) {
+            return CannotRead;
+        }
+        Assumptions assumptions = assumptionsOf(options.assumptions, *runs.run);
+        Comparison comparison = compare(checkProgram(*program, assumptions, rates), *runs.run);
+        comparison.journalName = options.journal;
+        comparison.runs = runs.count;
+        write(comparison);
+        return comparison.differs() ? Found : Clean;
+    }
+
 private:
+    std::optional<LoadedProgram> loadOne(const QString& fileName) const
+    {
+        std::optional<LoadedProgram> program = loadProgram(fileName);
+        if (!program) {
+            outlets.complain(cannotRead(fileName,
+                Words::tr("it is missing, no plain file, larger than 16 MiB, or not to be opened")));
+        }
+        return program;
+    }
+
     bool readStart(Assumptions& assumptions)
     {
         assumptions = options.assumptions;
@@ -92,6 +120,17 @@ private:
                 outlets.out("\n");
             }
             writeOne(programs[i]);
+        }
+    }
+
+    void write(const Comparison& comparison) const
+    {
+        if (options.output == Options::Output::Json) {
+            writeComparedJson(comparison, outlets.out);
+        } else if (options.output == Options::Output::Csv) {
+            writeComparedCsv(comparison, outlets.out);
+        } else {
+            writeComparedText(comparison, outlets.out);
         }
     }
 
@@ -146,7 +185,8 @@ ExitStatus runCommandLine(const QStringList& arguments, bool isFromDesktop, cons
         outlets.out(commandLine.text.toUtf8());
         return Clean;
     }
-    return Session(commandLine.options, outlets).check();
+    Session session(commandLine.options, outlets);
+    return commandLine.options.isCompare ? session.compareRun() : session.check();
 }
 
 } // namespace GrowthCheck

@@ -2,6 +2,7 @@
 
 #include "growthcheck/check/timetext.h"
 #include "growthcheck/check/words.h"
+#include "growthcheck/output/csvfields.h"
 #include "growthcheck/output/output.h"
 #include "shutter/shuttercommand.h"
 
@@ -10,14 +11,6 @@
 namespace GrowthCheck {
 
 namespace {
-
-QString inQuotes(const QString& text)
-{
-    const bool isPlain = !text.contains(QLatin1Char(',')) && !text.contains(QLatin1Char('"'));
-    QString doubled = text;
-    doubled.replace(QLatin1Char('"'), QLatin1String("\"\""));
-    return isPlain ? text : QLatin1Char('"') + doubled + QLatin1Char('"');
-}
 
 // One event; fields that it has nothing for stay empty.
 struct Event

@@ -20,4 +20,9 @@ double inSeconds(qint64 ms);
 
 QJsonArray findingArray(const Findings& findings);
 
+QByteArray bytesOf(const QJsonObject& object);
+
+/// An object's members without its braces, so that a long array can follow piece by piece.
+QByteArray membersOf(const QJsonObject& object);
+
 } // namespace GrowthCheck

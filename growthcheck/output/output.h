@@ -1,6 +1,7 @@
 #pragma once
 
 #include "growthcheck/check/check.h"
+#include "growthcheck/comparison/comparison.h"
 
 #include <QByteArray>
 #include <QString>
@@ -25,6 +26,11 @@ void writeCsv(const CheckedProgram& checked, const Sink& sink);
 
 /// A value change dump of the seven shutters, the nine set points, step and pass.
 void writeVcd(const CheckedProgram& checked, const Sink& sink);
+
+/// A run, held against its program: as a report, as a JSON object, and as a table with an event a line.
+void writeComparedText(const Comparison& comparison, const Sink& sink);
+void writeComparedJson(const Comparison& comparison, const Sink& sink);
+void writeComparedCsv(const Comparison& comparison, const Sink& sink);
 
 /// A message a line: when, to whom, its bytes.
 void writeWire(const CheckedProgram& checked, const Sink& sink);

@@ -43,21 +43,6 @@ bool isEmpty(const Place& place)
     return place.first == place.second;
 }
 
-ProgramStep stepOf(const QStringList& fields)
-{
-    ProgramStep step;
-    for (int i = 0; i < Channels::count; ++i) {
-        step.setPoints[static_cast<size_t>(i)] = fields[firstSetPointField + i].left(longestText);
-    }
-    for (int i = 0; i < Channels::shutterCount; ++i) {
-        step.shutters[static_cast<size_t>(i)] = fields[firstShutterField + i].toInt() == 1;
-    }
-    step.timeSec = tableTime(readNumber(fields[timeField]).value_or(0.0));
-    step.group = fields[groupField] == noGroup ? QString() : fields[groupField].left(longestText);
-    step.times = fields[timesField].toInt();
-    return step;
-}
-
 // Fills what goes by the line's text. Only the first fields are looked at, as many as a step has: a line may
 // hold thousands.
 void takeApart(Line& line)
@@ -145,6 +130,21 @@ void write(QTextStream& stream, const QVector<ProgramStep>& steps)
 double tableTime(double timeSec)
 {
     return readNumber(QString::number(timeSec, 'g', 6)).value_or(0.0);
+}
+
+ProgramStep stepOf(const QStringList& fields)
+{
+    ProgramStep step;
+    for (int i = 0; i < Channels::count; ++i) {
+        step.setPoints[static_cast<size_t>(i)] = fields[firstSetPointField + i].left(longestText);
+    }
+    for (int i = 0; i < Channels::shutterCount; ++i) {
+        step.shutters[static_cast<size_t>(i)] = fields[firstShutterField + i].toInt() == 1;
+    }
+    step.timeSec = tableTime(readNumber(fields[timeField]).value_or(0.0));
+    step.group = fields[groupField] == noGroup ? QString() : fields[groupField].left(longestText);
+    step.times = fields[timesField].toInt();
+    return step;
 }
 
 std::optional<ProgramStep> stepOf(const QString& line)

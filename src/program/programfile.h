@@ -56,6 +56,9 @@ void write(QTextStream& stream, const QVector<ProgramStep>& steps);
 /// characters.
 std::optional<ProgramStep> stepOf(const QString& line);
 
+/// The step that the 20 fields of a line say.
+ProgramStep stepOf(const QStringList& fields);
+
 /// A time in s as the table shows and keeps it: with six significant digits.
 double tableTime(double timeSec);
 

@@ -43,13 +43,37 @@ void PlayedChamber::settle()
 
 void PlayedChamber::reply()
 {
-    bool hasReplied = false;
-    while (!replies.isEmpty() && replies.constFirst().dueMs <= DrivenClock::nowMs()) {
-        station.adapter.post(replies.takeFirst().line + "\r\n");
-        hasReplied = true;
-    }
-    if (hasReplied) {
+    const QByteArray bytes = replies.takeDue(DrivenClock::nowMs());
+    if (!bytes.isEmpty() && station.adapter.isConnected()) {
+        station.adapter.post(bytes);
         QCoreApplication::processEvents();
+    }
+}
+
+void PlayedChamber::answer(const QByteArray& line, int channel)
+{
+    const qint64 dueMs = DrivenClock::nowMs() + replyTicks * tickMs;
+    if (faults) {
+        obey(faults->decide(line, channel + 1), dueMs);
+    } else {
+        replies.push(line + "\r\n", dueMs);
+    }
+}
+
+void PlayedChamber::obey(const Chamber::Delivery& delivery, qint64 dueMs)
+{
+    if (delivery.link == Chamber::Delivery::Link::Cut) {
+        station.adapter.cut();
+        return;
+    }
+    isHalfOpen = isHalfOpen || delivery.link == Chamber::Delivery::Link::HalfOpen;
+    for (int i = 0; i < delivery.pieces.size(); ++i) {
+        const Chamber::Delivery::Piece& piece = delivery.pieces[i];
+        if (delivery.waitsForNext && i == delivery.pieces.size() - 1) {
+            replies.pushWaiting(piece.bytes, dueMs + piece.delayMs);
+        } else {
+            replies.push(piece.bytes, dueMs + piece.delayMs);
+        }
     }
 }
 
@@ -88,6 +112,9 @@ void PlayedChamber::takeMessages()
     }
     const qint64 now = DrivenClock::nowMs();
     for (const Wire::Message& message : station.adapter.takeMessages()) {
+        if (isHalfOpen) {
+            continue;
+        }
         QByteArray line = "OK";
         if (message.kind == Wire::Message::Read) {
             line = Wire::reading(degrees.at(static_cast<size_t>(message.value)), message.value);
@@ -96,7 +123,7 @@ void PlayedChamber::takeMessages()
             degrees.at(static_cast<size_t>(message.value)) = readNumber(value).value_or(0.0);
         }
         if (message.kind == Wire::Message::Read || message.kind == Wire::Message::SetPoint) {
-            replies.append({now + replyTicks * tickMs, line});
+            answer(line, message.value);
         }
         if (message.kind == Wire::Message::SetPoint || message.kind == Wire::Message::Shutters) {
             arrivals.append({now, message});

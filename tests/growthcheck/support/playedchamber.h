@@ -1,11 +1,14 @@
 #pragma once
 
+#include "simulator/faults.h"
+#include "simulator/sendqueue.h"
 #include "support/station.h"
 
 #include <QByteArray>
 #include <QList>
 
 #include <array>
+#include <optional>
 
 /// A chamber on the driven clock for a real station: its cells follow their set points at once, its
 /// controllers answer after a number of ticks. It notes what comes, and when.
@@ -25,6 +28,8 @@ public:
     void setTemperature(int channel, double degC) { degrees.at(static_cast<size_t>(channel)) = degC; }
     /// Ticks from a request to its reply; 0 is before the next tick.
     void setReplyTicks(int ticks) { replyTicks = ticks; }
+    /// What goes wrong with its replies, as the simulator has it.
+    void setFaults(const Chamber::FaultRates& rates, quint64 seed) { faults.emplace(rates, seed); }
     /// Whether the polling's tick comes before the player's.
     void setPollingFirst(bool first) { isPollingFirst = first; }
 
@@ -38,13 +43,9 @@ public:
     QList<Arrival> takeArrivals();
 
 private:
-    struct Reply
-    {
-        qint64 dueMs;
-        QByteArray line;
-    };
-
     void reply();
+    void answer(const QByteArray& line, int channel);
+    void obey(const Chamber::Delivery& delivery, qint64 dueMs);
     void turnTimers();
     void takeMessages();
     void fireShutterTimer();
@@ -52,7 +53,9 @@ private:
     Station& station;
     MessageCapture debugLines;
     std::array<double, Channels::count> degrees{};
-    QList<Reply> replies;
+    Chamber::SendQueue replies;
+    std::optional<Chamber::Faults> faults;
+    bool isHalfOpen = false; // the far end takes and answers nothing more
     QList<Arrival> arrivals;
     int replyTicks = 0;
     bool isPollingFirst = true;
