@@ -1,3 +1,4 @@
+#include "growthcheck/app/desktop.h"
 #include "growthcheck/app/session.h"
 
 #include <QCoreApplication>
@@ -22,5 +23,6 @@ int main(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("growthcheck"));
-    return GrowthCheck::runCommandLine(QCoreApplication::arguments(), false, {&writeOut, &complain});
+    return GrowthCheck::runCommandLine(
+        QCoreApplication::arguments(), GrowthCheck::isStartedByDesktop(), {&writeOut, &complain});
 }

@@ -207,7 +207,9 @@ QString readOutput(const QCommandLineParser& parser, Options& options)
             ++outputs;
         }
     }
-    return outputs > 1 ? Words::tr("only one of --json, --csv, --vcd and --wire at a time") : QString();
+    outputs += options.page.isEmpty() ? 0 : 1;
+    return outputs > 1 ? Words::tr("only one of --json, --csv, --vcd, --wire and --html at a time")
+                       : QString();
 }
 
 QString readFiles(const QStringList& arguments, Options& options)

@@ -1,10 +1,14 @@
 #include "growthcheck/app/session.h"
 
+#include "growthcheck/app/desktop.h"
 #include "growthcheck/check/check.h"
 #include "growthcheck/check/words.h"
 #include "growthcheck/comparison/compare.h"
 #include "growthcheck/output/output.h"
+#include "growthcheck/page/page.h"
 #include "growthcheck/rehearsal/starttemperatures.h"
+
+#include <QSaveFile>
 
 namespace GrowthCheck {
 
@@ -37,8 +41,8 @@ public:
                 programs.append(checkProgram(*program, assumptions, rates));
             }
         }
-        write();
-        return status();
+        const bool isWritten = writesPage() ? writePage() : write();
+        return isWritten ? status() : CannotRead;
     }
 
     ExitStatus compareRun()
@@ -53,11 +57,18 @@ public:
         if (!isRead(options.journal, runs.wrong)) {
             return CannotRead;
         }
-        Assumptions assumptions = assumptionsOf(options.assumptions, *runs.run);
-        Comparison comparison = compare(checkProgram(*program, assumptions, rates), *runs.run);
+        const CheckedProgram checked
+            = checkProgram(*program, assumptionsOf(options.assumptions, *runs.run), rates);
+        Comparison comparison = compare(checked, *runs.run);
         comparison.journalName = options.journal;
         comparison.runs = runs.count;
-        write(comparison);
+        if (writesPage()) {
+            if (!writePage(pageOf(checked, comparison))) {
+                return CannotRead;
+            }
+        } else {
+            write(comparison);
+        }
         return comparison.differs() ? Found : Clean;
     }
 
@@ -106,11 +117,29 @@ private:
         return wrong.isEmpty();
     }
 
-    void write() const
+    // A page alone: what is written besides was asked for by its own option.
+    bool writesPage() const { return !options.page.isEmpty(); }
+
+    bool writePage() const { return programs.isEmpty() || writePage(pageOf(programs.constFirst())); }
+
+    bool writePage(const QByteArray& page) const
+    {
+        QSaveFile file(options.page);
+        const bool isWritten
+            = file.open(QIODevice::WriteOnly) && file.write(page) == page.size() && file.commit();
+        if (!isWritten) {
+            outlets.complain(Words::tr("%1 cannot be written: %2").arg(options.page, file.errorString()));
+        } else if (options.isDropped) {
+            showFile(options.page);
+        }
+        return isWritten;
+    }
+
+    bool write() const
     {
         if (options.output == Options::Output::Json) {
             writeJson(programs, outlets.out);
-            return;
+            return true;
         }
         if (options.output == Options::Output::Csv) {
             writeCsvHead(outlets.out);
@@ -121,6 +150,7 @@ private:
             }
             writeOne(programs[i]);
         }
+        return true;
     }
 
     void write(const Comparison& comparison) const

@@ -70,6 +70,13 @@ struct MeasuredMinute
     std::array<std::optional<double>, Channels::count> setPointDegC;
 };
 
+/// Shutters that were set, by the program or by hand: they stay so until the next command.
+struct ShutterChange
+{
+    qint64 ms = 0;
+    QVector<bool> open; ///< one each
+};
+
 /// A program and a run of it.
 struct Comparison
 {
@@ -79,6 +86,7 @@ struct Comparison
     RecordedRun run;
     Timeline plan; ///< of the program's file, from the temperatures that the panel showed
     QVector<ComparedStep> steps;
+    QVector<ShutterChange> shutters; ///< in the order of their times
     QVector<MeasuredMinute> minutes;
     qint64 endMs = 0;
     Findings findings; ///< the worst first

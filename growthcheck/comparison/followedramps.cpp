@@ -115,8 +115,8 @@ void FollowedRamps::takeEnd(const RecordedEvent& event)
     const QString why = event.value("why");
     if (why != QLatin1String("reached")) {
         lookForMissing(channel, event.ms);
-        cell.ramp.cellRunning = false;
     }
+    cell.ramp.cellRunning = false;
     if (why == QLatin1String("stopped") && cell.isPlanned) {
         tell(RunKinds::rampStopped, step(), channel,
             Words::tr("The ramp to %1 deg C was stopped by hand.").arg(shown(cell.targetDegC)));

@@ -13,6 +13,16 @@ namespace {
 constexpr qint64 lateMs = 100;
 constexpr qint64 waitedMs = 500;
 
+// Of the journal's letters.
+QVector<bool> statesOf(const QString& letters)
+{
+    QVector<bool> open;
+    for (int shutter = 0; shutter < Channels::shutterCount; ++shutter) {
+        open.append(shutter < letters.size() && letters[shutter] == QLatin1Char('o'));
+    }
+    return open;
+}
+
 QString inSeconds(qint64 ms)
 {
     return QString::number(static_cast<double>(ms) / 1000.0, 'f', 2);
@@ -97,6 +107,10 @@ void FollowedSteps::takeShutters(const RecordedEvent& event)
         return;
     }
     const QString open = event.value("open");
+    const bool isConnected = event.value("link") == QLatin1String("up");
+    if (isConnected) {
+        comparison.shutters.append({event.ms, statesOf(open)});
+    }
     const bool isOwn = open == shutterLetters(step().plan.shutters);
     if (!isOwn) {
         tell(RunKinds::shuttersByHand,
@@ -107,7 +121,6 @@ void FollowedSteps::takeShutters(const RecordedEvent& event)
     if (step().command != ComparedStep::Command::Missing) {
         return;
     }
-    const bool isConnected = event.value("link") == QLatin1String("up");
     step().command = isConnected ? ComparedStep::Command::Sent : ComparedStep::Command::NotConnected;
     step().commandMs = event.ms;
     step().waitedMs = event.ms - step().startMs;

@@ -4,6 +4,8 @@
 #include "growthcheck/check/words.h"
 #include "growthcheck/output/findingtext.h"
 #include "growthcheck/output/output.h"
+#include "growthcheck/output/reportparts.h"
+#include "growthcheck/output/steptexts.h"
 #include "growthcheck/output/textlines.h"
 #include "shutter/shuttercommand.h"
 
@@ -26,48 +28,6 @@ QString hundredths(qint64 ms)
     return QString::number(static_cast<double>(ms) / 1000.0, 'f', 2);
 }
 
-QString endName(RecordedRun::End end)
-{
-    switch (end) {
-    case RecordedRun::End::Over:
-        return Words::tr("played to its end");
-    case RecordedRun::End::Stopped:
-        return Words::tr("stopped by the operator");
-    case RecordedRun::End::BrokenOff:
-        return Words::tr("broken off");
-    case RecordedRun::End::StillRuns:
-        break;
-    }
-    return Words::tr("still running");
-}
-
-QString summary(const Comparison& comparison)
-{
-    const RecordedRun& run = comparison.run;
-    QString text = wrapped(QString(),
-        Words::tr("%1, run %2 of %3 in %4")
-            .arg(comparison.programName, QString::number(run.number), QString::number(comparison.runs),
-                comparison.journalName),
-        2);
-    text += wrapped(QStringLiteral("  "),
-        Words::tr("Run at %1; %2 after %3")
-            .arg(run.startedAt.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")), endName(run.end),
-                elapsedText(comparison.endMs)),
-        2);
-    qint64 lateMs = 0;
-    qint64 waitedMs = 0;
-    for (const ComparedStep& step : comparison.steps) {
-        lateMs = qMax(lateMs, step.lateMs);
-        waitedMs = qMax(waitedMs, step.waitedMs);
-    }
-    return text
-        + wrapped(QStringLiteral("  "),
-            Words::tr("planned: %1; starts of steps: %2; latest by %3 s; shutters waited %4 s at the most")
-                .arg(elapsedText(comparison.plan.endMs, comparison.plan.holds),
-                    QString::number(comparison.steps.size()), hundredths(lateMs), hundredths(waitedMs)),
-            2);
-}
-
 QString head()
 {
     QString text = QLatin1Char('\n') + Words::tr("Steps, as they were played") + QLatin1Char('\n');
@@ -79,67 +39,28 @@ QString head()
     return text + QLatin1Char(' ') + rightAligned(Words::tr("waited"), waitedColumns) + QLatin1Char('\n');
 }
 
-QString commandText(const ComparedStep& step)
+QString detailText(const QString& text)
 {
-    switch (step.command) {
-    case ComparedStep::Command::Sent:
-        return hundredths(step.waitedMs);
-    case ComparedStep::Command::NotConnected:
-        return Words::tr("no link");
-    case ComparedStep::Command::Missing:
-        break;
-    }
-    return Words::tr("never");
-}
-
-QString setPointText(const ComparedSetPoint& setPoint)
-{
-    const QString sent = QString::number(setPoint.sentDegC, 'f', 1);
-    const QString planned = QString::number(setPoint.plannedDegC, 'f', 1);
-    if (setPoint.sentMs < 0) {
-        return Words::tr("%1 not sent").arg(planned);
-    }
-    if (setPoint.dueMs < 0 || sent == planned) {
-        return sent;
-    }
-    return Words::tr("%1 for %2").arg(sent, planned);
+    return text.isEmpty() ? text : wrapped(QString(detailIndent, QLatin1Char(' ')), text, detailIndent + 2);
 }
 
 QString setPointsText(const ComparedStep& step)
 {
     QString text;
     for (int channel = 0; channel < Channels::count; ++channel) {
-        QStringList values;
-        for (const ComparedSetPoint& setPoint : step.setPoints) {
-            if (setPoint.channel == channel) {
-                values.append(setPointText(setPoint));
-            }
-        }
-        if (!values.isEmpty()) {
-            text += wrapped(QString(detailIndent, QLatin1Char(' ')),
-                Words::tr("%1 set points: %2").arg(channelName(channel), values.join(QLatin1Char(' '))),
-                detailIndent + 2);
+        const QString sent = sentText(step, channel);
+        if (!sent.isEmpty()) {
+            text += detailText(Words::tr("%1 set points: %2").arg(channelName(channel), sent));
         }
     }
     return text;
 }
 
-QString differencesText(const ComparedStep& step)
+QString offText(const ComparedStep& step)
 {
-    QStringList texts;
-    for (int channel = 0; channel < Channels::count; ++channel) {
-        const Difference& difference = step.differences.at(static_cast<size_t>(channel));
-        if (difference.minutes > 0) {
-            texts.append(Words::tr("%1 %2 (%3 at the most)")
-                             .arg(channelName(channel), QString::number(difference.meanDegC(), 'f', 1),
-                                 QString::number(difference.largestDegC, 'f', 1)));
-        }
-    }
-    return texts.isEmpty()
-        ? QString()
-        : wrapped(QString(detailIndent, QLatin1Char(' ')),
-            Words::tr("off its set point by deg C: %1").arg(texts.join(QLatin1String(", "))),
-            detailIndent + 2);
+    const QString differences = differencesText(step);
+    return differences.isEmpty() ? differences
+                                 : Words::tr("off its set point by deg C (at the most): %1").arg(differences);
 }
 
 QString stepText(const ComparedStep& step)
@@ -161,14 +82,17 @@ QString stepText(const ComparedStep& step)
         words.append(quoted(step.group));
     }
     return wrapped(line + QLatin1String("  "), words.join(QLatin1String("  ")), detailIndent)
-        + setPointsText(step) + differencesText(step);
+        + setPointsText(step) + detailText(offText(step));
 }
 
 } // namespace
 
 void writeComparedText(const Comparison& comparison, const Sink& sink)
 {
-    sink(summary(comparison).toUtf8());
+    sink(comparison.programName.toUtf8() + '\n');
+    for (const QString& line : summaryLines(comparison)) {
+        sink(wrapped(QStringLiteral("  "), line, 2).toUtf8());
+    }
     sink(findingsText(comparison.findings).toUtf8());
     sink(head().toUtf8());
     const int listed = qMin(comparison.steps.size(), mostListed);

@@ -2,6 +2,7 @@
 
 #include "growthcheck/check/timetext.h"
 #include "growthcheck/check/words.h"
+#include "growthcheck/output/steptexts.h"
 #include "growthcheck/output/textlines.h"
 #include "shutter/shuttercommand.h"
 
@@ -13,15 +14,8 @@ namespace GrowthCheck {
 namespace {
 
 constexpr int mostListed = 2000; // steps
-constexpr int mostSetPoints = 24; // of a ramp
-constexpr int shownFirst = 6; // of those of a longer one
 constexpr int rampIndent = 6;
 constexpr int layerIndent = 15;
-
-QString degrees(double degC)
-{
-    return QString::number(degC, 'f', 1);
-}
 
 class TimelineText
 {
@@ -63,7 +57,8 @@ public:
         QSet<int> told;
         for (const PlannedRamp& ramp : step.ramps) {
             told.insert(ramp.channel);
-            text += rampText(ramp, valuesOf(step.setPoints, ramp.channel));
+            text += wrapped(
+                QString(rampIndent, QLatin1Char(' ')), rampText(ramp, step.setPoints), rampIndent + 2);
         }
         return text + setPointsBut(step.setPoints, told);
     }
@@ -116,63 +111,18 @@ private:
         return step.times > 1 ? QStringLiteral("%1/%2").arg(step.pass).arg(step.times) : QString();
     }
 
-    static QString openNames(const QVector<bool>& shutters)
-    {
-        QStringList names;
-        for (int shutter = 0; shutter < shutters.size(); ++shutter) {
-            if (shutters[shutter]) {
-                names.append(channelName(shutter));
-            }
-        }
-        return names.join(QLatin1Char(' '));
-    }
-
-    // What a channel is sent, "?" behind what may not go out.
-    static QStringList valuesOf(const QVector<PlannedSetPoint>& setPoints, int channel)
-    {
-        QStringList values;
-        for (const PlannedSetPoint& setPoint : setPoints) {
-            if (setPoint.channel == channel) {
-                values.append(degrees(setPoint.degC) + QLatin1String(setPoint.isSure ? "" : "?"));
-            }
-        }
-        return values;
-    }
-
-    static QString rampText(const PlannedRamp& ramp, const QStringList& values)
-    {
-        const QString start = QString::number(ramp.plan.currentDegC, 'g', 6);
-        const QString from
-            = ramp.from == PlannedRamp::From::NotTold ? Words::tr("%1 (not told)").arg(start) : start;
-        const QString to = QString::number(ramp.plan.targetDegC, 'g', 6);
-        const QString text = Words::tr("%1 %2 to %3 deg C in %4 min: %5");
-        const QString sent = ramp.end == PlannedRamp::End::Refused ? Words::tr("refused") : listOf(values);
-        return wrapped(QString(rampIndent, QLatin1Char(' ')),
-            text.arg(channelName(ramp.channel), from, to, ramp.minutes, sent), rampIndent + 2);
-    }
-
     // Of ramps that began before, a line a channel.
     static QString setPointsBut(const QVector<PlannedSetPoint>& setPoints, const QSet<int>& told)
     {
         QString text;
         for (int channel = 0; channel < Channels::count; ++channel) {
-            const QStringList values = valuesOf(setPoints, channel);
+            const QString values = setPointsText(setPoints, channel);
             if (!values.isEmpty() && !told.contains(channel)) {
                 text += wrapped(QString(rampIndent, QLatin1Char(' ')),
-                    Words::tr("%1 goes on: %2").arg(channelName(channel), listOf(values)), rampIndent + 2);
+                    Words::tr("%1 goes on: %2").arg(channelName(channel), values), rampIndent + 2);
             }
         }
         return text;
-    }
-
-    static QString listOf(const QStringList& values)
-    {
-        if (values.size() <= mostSetPoints) {
-            return values.join(QLatin1Char(' '));
-        }
-        return Words::tr("%1 ... %2 (%3 set points)")
-            .arg(values.mid(0, shownFirst).join(QLatin1Char(' ')), values.last(),
-                QString::number(values.size()));
     }
 
     const CheckedProgram& checked;
