@@ -1,6 +1,7 @@
 #include "growthcheck/app/session.h"
 
 #include "growthcheck/app/desktop.h"
+#include "growthcheck/app/spokenlanguage.h"
 #include "growthcheck/check/check.h"
 #include "growthcheck/check/words.h"
 #include "growthcheck/comparison/compare.h"
@@ -206,6 +207,7 @@ private:
 
 ExitStatus runCommandLine(const QStringList& arguments, bool isFromDesktop, const Outlets& outlets)
 {
+    const SpokenLanguage language(chosenLanguage(arguments));
     const CommandLine commandLine = readCommandLine(arguments, isFromDesktop);
     if (!commandLine.error.isEmpty()) {
         outlets.complain(commandLine.error);

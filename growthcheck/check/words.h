@@ -7,7 +7,7 @@ namespace GrowthCheck {
 /// The texts of growthcheck in the language of the user: Words::tr("...").
 class Words
 {
-    Q_DECLARE_TR_FUNCTIONS(growthcheck)
+    Q_DECLARE_TR_FUNCTIONS(Words)
 };
 
 /// A channel's name in that language.
