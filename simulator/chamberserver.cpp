@@ -104,6 +104,7 @@ void ChamberServer::receive()
     while (client != nullptr && client->bytesAvailable() > 0
         && client->bytesToWrite() + queue.byteCount() <= mostUnsent) {
         const QByteArray chunk = client->read(chunkSize);
+        emit received(chunk);
         for (const AdapterLine& line : parser.feed(chunk)) {
             if (client == nullptr || halfOpen) {
                 break;

@@ -51,6 +51,8 @@ public:
     const Rack& instruments() const { return rack; }
 
 signals:
+    /// Bytes have come from the client, and are taken in now.
+    void received(const QByteArray& bytes);
     /// The client is gone, of its own will or by a fault.
     void clientLeft();
 

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QTimer>
 
 #include <csignal>
@@ -13,6 +14,7 @@
 namespace {
 
 constexpr int statusCannotListen = 1;
+constexpr int statusCannotRecord = 1;
 constexpr int statusBadOption = 2;
 constexpr int statusDiffers = 3;
 constexpr int stopPollMs = 50;
@@ -63,6 +65,15 @@ int cannotListen(const Chamber::Options& options, const QString& why)
 int playChamber(const Chamber::Options& options, const Log& log)
 {
     Chamber::ChamberServer server(options, log);
+    QFile record(options.recordFile);
+    if (!options.recordFile.isEmpty()) {
+        if (!record.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+            complain(QStringLiteral("cannot write %1: %2").arg(options.recordFile, record.errorString()));
+            return statusCannotRecord;
+        }
+        QObject::connect(&server, &Chamber::ChamberServer::received, &record,
+            [&record](const QByteArray& bytes) { record.write(bytes); });
+    }
     if (!server.listen()) {
         return cannotListen(options, server.errorString());
     }

@@ -16,6 +16,7 @@ const QString seedName = QStringLiteral("seed");
 const QString timeScaleName = QStringLiteral("time-scale");
 const QString latencyName = QStringLiteral("latency");
 const QString faultOptionName = QStringLiteral("fault");
+const QString recordName = QStringLiteral("record");
 const QString replayName = QStringLiteral("replay");
 const QString quietName = QStringLiteral("quiet");
 const QString onceName = QStringLiteral("once");
@@ -54,6 +55,8 @@ void defineOptions(QCommandLineParser& parser)
             QStringLiteral("How long every reply takes in ms, give or take JITTER (5:2; 0 is at once)."),
             QStringLiteral("ms[:jitter]")},
         {faultOptionName, QString::fromLatin1(faultHelp), QStringLiteral("kind=rate")},
+        {recordName, QStringLiteral("Keeps every byte that clients send in this file."),
+            QStringLiteral("file")},
         {replayName,
             QStringLiteral(
                 "Answers as the station's journal FILE has it (written with NELVO_JOURNAL=--wire), and ends\n"
@@ -117,6 +120,12 @@ QString readLatency(const QString& value, Options& options)
     return {};
 }
 
+QString readRecord(const QString& value, Options& options)
+{
+    options.recordFile = value;
+    return value.isEmpty() ? wrongValue(recordName, value, QStringLiteral("a file's name")) : QString();
+}
+
 QString readReplay(const QString& value, Options& options)
 {
     options.replayFile = value;
@@ -159,6 +168,7 @@ QString readValues(const QCommandLineParser& parser, Options& options)
         {seedName, &readSeed},
         {timeScaleName, &readTimeScale},
         {latencyName, &readLatency},
+        {recordName, &readRecord},
         {replayName, &readReplay},
     };
     for (const auto& reader : readers) {

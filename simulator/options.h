@@ -18,6 +18,7 @@ struct Options
     int latencyMs = 5; ///< how long a reply takes, give or take jitterMs, but never less than 0
     int jitterMs = 2;
     FaultRates faultRates = {};
+    QString recordFile; ///< keeps the bytes that clients send; empty for none
     QString replayFile; ///< a journal whose bytes are played again; empty to play the chamber
     bool quiet = false; ///< log nothing but where it listens
     bool once = false; ///< end when the first client has left

@@ -40,6 +40,14 @@ public:
     MBEMain();
     ~MBEMain() override;
 
+    /// Whether a program plays, paused or not.
+    bool isPlaying() const { return player.progRunning; }
+    /// Whether any cell's set point is being ramped.
+    bool isRamping() const { return anyCellRunning(); }
+    /// Have the journal tell what was asked of the PC, and that the session is to end.
+    void journalPc(const QString& asked, const QString& answer);
+    void journalSessionEnd(bool isHeldUp);
+
 signals:
     /// Declared only; the chart is fed by direct calls.
     void newT(int ch, qint64 t, double T);

@@ -47,6 +47,16 @@ void MBEMain::setupJournal()
     nextMinuteMs = WallClock::nowMs() + minuteMs;
 }
 
+void MBEMain::journalPc(const QString& asked, const QString& answer)
+{
+    journal->write("pc", {{"asked", asked}, {"answer", answer}});
+}
+
+void MBEMain::journalSessionEnd(bool isHeldUp)
+{
+    journal->write("session-end", {{"held-up", isHeldUp ? QStringLiteral("yes") : QStringLiteral("no")}});
+}
+
 void MBEMain::journalCell(const char* kind, int ch, const JournalFields& fields)
 {
     journal->write(kind, JournalFields{{"cell", QLatin1String(Channels::list[ch].name)}} + fields);

@@ -6,6 +6,7 @@ LineSelect::LineSelect(QWidget* parent)
     : QFrame(parent)
 {
     setupUi(this);
+    // The form says it too: it is what makes a mere move over the selector choose its line.
     setAttribute(Qt::WA_MouseTracking);
     connect(LineSel, SIGNAL(toggled(bool)), this, SIGNAL(toggled(bool)), Qt::UniqueConnection);
 }

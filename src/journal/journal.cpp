@@ -24,7 +24,7 @@ Journal::Journal(const QString& name)
 
 std::optional<JournalLine> Journal::lastLine() const
 {
-    constexpr qint64 longestEnd = 64 * 1024;
+    constexpr qint64 longestEnd = qint64{64} * 1024;
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {
         return std::nullopt;

@@ -13,7 +13,7 @@
 class Journal
 {
 public:
-    static constexpr qint64 largestFile = 8 * 1024 * 1024;
+    static constexpr qint64 largestFile = qint64{8} * 1024 * 1024;
     static constexpr int olderFiles = 4;
 
     /// Writes to the file `name`, which need not be there yet; relative names count from the working

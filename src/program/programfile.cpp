@@ -16,7 +16,7 @@ static_assert(fieldCount == 20,
     "the programs that laboratories have saved are lines of 20 fields: say how they are read");
 static_assert(timesField == fieldCount - 1, "a new column of the table has to be written and read here");
 
-constexpr qint64 largestFile = 16 * 1024 * 1024;
+constexpr qint64 largestFile = qint64{16} * 1024 * 1024;
 
 // An empty group would vanish between its two tabs and shift the repeat count.
 const QLatin1String noGroup("---NoGroup---");

@@ -2,6 +2,52 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en">
 <context>
+    <name>AdapterFile</name>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 を読み込めません。</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not understood. The one line there may be is &quot;adapter=HOST&quot;.</source>
+        <translation>%1: 「%2」は解釈できません。書けるのは「adapter=ホスト」の 1 行だけです。</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is no host name and no IPv4 address.</source>
+        <translation>%1: 「%2」はホスト名でも IPv4 アドレスでもありません。</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Nelvo, the operator&apos;s control station of an MBE growth chamber
+
+Nelvo [OPTION]...
+  -j                    in Japanese, as it is unless told otherwise
+  -e                    in English; so is the program Nelvoe
+  --check-pc[=SECONDS]  tells whether this PC keeps time and stays awake, after 60 s or SECONDS;
+                        exit status 0 when it does, 1 when it does not
+  --help                shows this and ends
+  --version             shows the version and ends
+
+The adapter&apos;s host is the one that the environment variable NELVO_ADAPTER names, else the one
+in the line &quot;adapter=HOST&quot; of the file nelvo.ini beside the program, else the one compiled in.
+</source>
+        <translation>Nelvo: MBE 成長室の制御ステーション
+
+Nelvo [オプション]...
+  -j                    日本語で起動します (指定がなければ日本語)
+  -e                    英語で起動します (プログラム名が Nelvoe の場合も英語)
+  --check-pc[=SECONDS]  この PC の時間の正確さとスリープ設定を 60 秒間 (または SECONDS 秒間) 調べます。
+                        終了コードは、問題がなければ 0、あれば 1 です
+  --help                この説明を表示して終了します
+  --version             バージョンを表示して終了します
+
+アダプターのホストは、環境変数 NELVO_ADAPTER、プログラムと同じフォルダーにある nelvo.ini の
+「adapter=ホスト」の行、ビルド時に組み込まれたアドレスの順に決まります。
+</translation>
+    </message>
+</context>
+<context>
     <name>LineSelect</name>
     <message>
         <source>Frame</source>
@@ -350,6 +396,112 @@
     <message>
         <source>Undo</source>
         <translation>元に戻す</translation>
+    </message>
+</context>
+<context>
+    <name>PcCheck</name>
+    <message>
+        <source>Ticks of 10 ms: %1, one every %2 ms, the latest %3 ms late
+</source>
+        <translation>10 ms ごとの刻み: %1 回、平均間隔 %2 ms、最大の遅れ %3 ms
+</translation>
+    </message>
+    <message>
+        <source>later than that
+</source>
+        <translation>それより遅い
+</translation>
+    </message>
+    <message>
+        <source>up to %1 ms late
+</source>
+        <translation>%1 ms までの遅れ
+</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>しない</translation>
+    </message>
+    <message>
+        <source>after %1 min</source>
+        <translation>%1 分後</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>no (%1)</source>
+        <translation>いいえ (%1)</translation>
+    </message>
+    <message>
+        <source>This system does not tell when it sleeps.
+</source>
+        <translation>このシステムからはスリープの設定がわかりません。
+</translation>
+    </message>
+    <message>
+        <source>Power plan: %1
+</source>
+        <translation>電源プラン: %1
+</translation>
+    </message>
+    <message>
+        <source>Sleeps, on mains: %1
+</source>
+        <translation>スリープ (電源接続時): %1
+</translation>
+    </message>
+    <message>
+        <source>Hibernates, on mains: %1
+</source>
+        <translation>休止状態 (電源接続時): %1
+</translation>
+    </message>
+    <message>
+        <source>Kept awake while a program plays or a ramp runs: %1
+</source>
+        <translation>プログラム実行中・昇温中のスリープ防止: %1
+</translation>
+    </message>
+    <message>
+        <source>Timers kept fine under a covered window: %1
+</source>
+        <translation>ウィンドウが隠れたときのタイマーの精度維持: %1
+</translation>
+    </message>
+    <message>
+        <source>The ticks are too late: steps and ramps would be late with them.
+</source>
+        <translation>刻みが遅すぎます。ステップと昇温も遅れます。
+</translation>
+    </message>
+    <message>
+        <source>The PC sleeps by itself: nobody would watch the cells then. Set sleep to &quot;never&quot;.
+</source>
+        <translation>この PC は自動的にスリープします。その間セルは監視されません。スリープを「なし」に設定してください。
+</translation>
+    </message>
+    <message>
+        <source>This PC can run the station.
+</source>
+        <translation>この PC でステーションを動かせます。
+</translation>
+    </message>
+    <message>
+        <source>The PC is being checked</source>
+        <translation>PC を調べています</translation>
+    </message>
+</context>
+<context>
+    <name>PcGuard</name>
+    <message>
+        <source>A growth program is playing.</source>
+        <translation>成長プログラムを実行中です。</translation>
+    </message>
+    <message>
+        <source>A cell&apos;s temperature is ramping.</source>
+        <translation>セルの温度を変更中です。</translation>
     </message>
 </context>
 </TS>

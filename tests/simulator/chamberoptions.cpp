@@ -52,7 +52,7 @@ private slots:
     {
         const CommandLine commandLine = read(words(
             "--listen 127.0.0.7 --port 0 --seed 18446744073709551615 --time-scale 60.5 --latency 150:20 "
-            "--fault late=0.25 --fault=wrong-length=1 --quiet --once"));
+            "--fault late=0.25 --fault=wrong-length=1 --record bytes.bin --quiet --once"));
         QCOMPARE(commandLine.error, QString());
         QCOMPARE(commandLine.options.listenAddress.toString(), "127.0.0.7"_s);
         QCOMPARE(commandLine.options.port, quint16(0));
@@ -63,6 +63,7 @@ private slots:
         QCOMPARE(rateOf(commandLine.options, FaultKind::Late), 0.25);
         QCOMPARE(rateOf(commandLine.options, FaultKind::WrongLength), 1.0);
         QCOMPARE(rateOf(commandLine.options, FaultKind::Lost), 0.0);
+        QCOMPARE(commandLine.options.recordFile, "bytes.bin"_s);
         QVERIFY(commandLine.options.quiet);
         QVERIFY(commandLine.options.once);
     }
@@ -114,6 +115,7 @@ private slots:
         row("--fault late=nan", "--fault 'late=nan'");
         row("--fault late=", "--fault 'late='");
         row("--fault late=0.1 --fault late=0.2", "--fault 'late=0.2'");
+        row("--record=", "--record ''");
         row("--replay=", "--replay ''");
         row("--replay a --fault late=0.1", "--fault with --replay");
         row("--quiet=yes", "quiet");
@@ -132,7 +134,7 @@ private slots:
         const CommandLine commandLine = read({"--help"_s});
         QCOMPARE(commandLine.error, QString());
         for (const char* option : {"--listen", "--port", "--seed", "--time-scale", "--latency", "--fault",
-                 "--replay", "--quiet", "--once", "--help", "--version"}) {
+                 "--record", "--replay", "--quiet", "--once", "--help", "--version"}) {
             QVERIFY2(commandLine.text.contains(QLatin1String(option)), option);
         }
         for (int kind = 0; kind < faultKindCount; ++kind) {

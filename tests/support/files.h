@@ -8,6 +8,7 @@
 /// The station's files, in its working directory: what it remembers, and the temperature record.
 inline const QString stateFile = QStringLiteral("NelvoCurrentStat.dat");
 inline const QString recordFile = QStringLiteral("TemperatureRec.dat");
+inline const QString journalFile = QStringLiteral("NelvoJournal.log");
 
 /// Makes the file `name` hold `bytes`; ends the test program when that fails.
 void putFile(const QString& name, const QByteArray& bytes);

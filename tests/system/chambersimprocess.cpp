@@ -1,6 +1,7 @@
 // The program chambersim itself, over the real socket.
 
 #include "support/testmain.h"
+#include "system/process.h"
 
 #include <QHostAddress>
 #include <QProcess>
@@ -20,7 +21,7 @@ class Chambersim
 public:
     explicit Chambersim(const QStringList& options)
     {
-        process.start(QStringLiteral(CHAMBERSIM_PROGRAM), options);
+        process.start(chambersimProgram(), options);
         if (!process.waitForStarted(patienceMs)) {
             qFatal("cannot start chambersim");
         }
@@ -44,7 +45,7 @@ public:
                 return {};
             }
         }
-        const QString line = QString::fromUtf8(process.readLine());
+        const QString line = QString::fromUtf8(process.readLine()).replace("\r\n"_s, "\n"_s);
         static const QRegularExpression form("^(\\d+\\.\\d{3}) ([^\\n]+)\\n$"_s);
         const QRegularExpressionMatch match = form.match(line);
         const double seconds = match.captured(1).toDouble();
@@ -217,6 +218,32 @@ private slots:
                      "07M1\x05\n");
         QCOMPARE(lineFrom(socket), QByteArray("ER\r\n"));
         QCOMPARE(chambersim.event(), QByteArray("fault er 07"));
+    }
+
+    void whatComesIsRecordedByteForByte()
+    {
+        QByteArray sent("++eoi\n\x1B\r\n\0\xFF\n", 12);
+        {
+            Chambersim chambersim(freePort({"--record"_s, "bytes.bin"_s, "--once"_s}));
+            QTcpSocket socket;
+            connectTo(socket, chambersim.port());
+            socket.write(sent);
+            QCOMPARE(lineFrom(socket), "1\r\n");
+            socket.disconnectFromHost();
+            QVERIFY(chambersim.ends());
+        }
+        QFile record("bytes.bin"_s);
+        QVERIFY(record.open(QIODevice::ReadOnly));
+        QCOMPARE(record.readAll(), sent);
+    }
+
+    void aRecordThatCannotBeWrittenIsOneLineAndStatus1()
+    {
+        Chambersim chambersim(freePort({"--record"_s, "missing/bytes.bin"_s}));
+        QVERIFY(chambersim.ends());
+        QCOMPARE(chambersim.process.exitCode(), 1);
+        QVERIFY(chambersim.process.readAllStandardError().startsWith(
+            "chambersim: cannot write missing/bytes.bin"));
     }
 
     void aBadOptionIsOneLineAndStatus2()

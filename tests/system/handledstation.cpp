@@ -15,22 +15,22 @@ constexpr int patienceMs = 20000;
 } // namespace
 
 Chamber::Chamber(const QStringList& options)
-    : Process(QStringLiteral(CHAMBERSIM_PROGRAM), QStringList{"--listen"_s, ownLoopbackAddress()} + options)
+    : Process(chambersimProgram(), QStringList{"--listen"_s, ownLoopbackAddress()} + options)
 {
     if (!waitForText("listening "_s)) {
         qFatal("the simulator does not listen");
     }
 }
 
-HandledStation::HandledStation(const QStringList& environment)
+HandledStation::HandledStation(const QStringList& environment, const QStringList& arguments)
 {
     const QString name = "nelvo-hands-%1"_s.arg(QCoreApplication::applicationPid());
     QLocalServer::removeServer(name);
     if (!server.listen(name)) {
         qFatal("no place for the hands: %s", qPrintable(server.errorString()));
     }
-    nelvo = std::make_unique<Process>(QStringLiteral(NELVO_PROGRAM), QStringList{"-e"_s},
-        QStringList{"NELVO_ADAPTER="_s + ownLoopbackAddress(), "QT_QPA_PLATFORM=offscreen"_s,
+    nelvo = std::make_unique<Process>(nelvoProgram(), arguments,
+        QStringList{"NELVO_ADAPTER="_s + ownLoopbackAddress(), stationPlatform(),
             "QT_QPA_GENERIC_PLUGINS=nelvohands"_s, QStringLiteral("QT_PLUGIN_PATH=" NELVO_HANDS_PLUGINS),
             "NELVO_HANDS="_s + name}
             + environment);
@@ -57,6 +57,12 @@ bool HandledStation::answers()
 {
     QString answer;
     return tryToAsk({"status"_s}, answer);
+}
+
+QPoint HandledStation::where(const QString& name)
+{
+    const QStringList place = ask({"where"_s, name}).split(QLatin1Char(' '));
+    return {place.value(0).toInt(), place.value(1).toInt()};
 }
 
 QString HandledStation::ask(const QStringList& words)

@@ -4,6 +4,7 @@
 
 #include <QLocalServer>
 #include <QLocalSocket>
+#include <QPoint>
 
 #include <memory>
 
@@ -19,8 +20,10 @@ public:
 class HandledStation
 {
 public:
-    /// Starts it at the adapter of ownLoopbackAddress(), in English, in the working directory of the test.
-    explicit HandledStation(const QStringList& environment = {});
+    /// Starts it at the adapter of ownLoopbackAddress(), in English unless the arguments say otherwise, in
+    /// the working directory of the test.
+    explicit HandledStation(
+        const QStringList& environment = {}, const QStringList& arguments = {QStringLiteral("-e")});
 
     /// False when its window does not come up within 20 s.
     bool isUp();
@@ -30,6 +33,9 @@ public:
     void click(const QString& name) { ask({QStringLiteral("click"), name}); }
     void type(const QString& name, const QString& text) { ask({QStringLiteral("type"), name, text}); }
     void load(const QString& fname) { ask({QStringLiteral("load"), fname}); }
+    void grab(const QString& fname) { ask({QStringLiteral("grab"), fname}); }
+    /// The middle of a widget on the screen.
+    QPoint where(const QString& name);
     QString text(const QString& name) { return ask({QStringLiteral("text"), name}); }
     QString style(const QString& name) { return ask({QStringLiteral("style"), name}); }
     /// Closes the window, as the operator does.

@@ -1,17 +1,56 @@
 #include "system/process.h"
 
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QProcessEnvironment>
 
 namespace {
 
 constexpr int patienceMs = 20000;
 
+QString tested(const QString& built)
+{
+    const QString folder = qEnvironmentVariable("NELVO_TEST_PROGRAMS");
+    return folder.isEmpty() ? built : QDir(folder).filePath(QFileInfo(built).fileName());
+}
+
+// Programs write in the encoding of their system.
+QString textOf(const QByteArray& output)
+{
+#ifdef Q_OS_WIN
+    return QString::fromLocal8Bit(output).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+#else
+    return QString::fromUtf8(output);
+#endif
+}
+
 } // namespace
+
+QString chambersimProgram()
+{
+    return tested(QStringLiteral(CHAMBERSIM_PROGRAM));
+}
+
+QString nelvoProgram()
+{
+    return tested(QStringLiteral(NELVO_PROGRAM));
+}
+
+QString stationPlatform()
+{
+#ifdef Q_OS_WIN
+    return QStringLiteral("QT_QPA_PLATFORM=windows");
+#else
+    return QStringLiteral("QT_QPA_PLATFORM=offscreen");
+#endif
+}
 
 Process::Process(const QString& program, const QStringList& arguments, const QStringList& environment)
 {
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    // Else a program with a window keeps its debug lines to the debugger on Windows.
+    variables.insert(QStringLiteral("QT_FORCE_STDERR_LOGGING"), QStringLiteral("1"));
     for (const QString& entry : environment) {
         variables.insert(entry.section(QLatin1Char('='), 0, 0), entry.section(QLatin1Char('='), 1));
     }
@@ -59,6 +98,13 @@ void Process::terminate()
     read();
 }
 
+void Process::kill()
+{
+    process.kill();
+    process.waitForFinished(patienceMs);
+    read();
+}
+
 bool Process::isRunning()
 {
     process.waitForFinished(0);
@@ -67,10 +113,8 @@ bool Process::isRunning()
 
 int Process::exitCode()
 {
-    if (process.state() != QProcess::NotRunning && !process.waitForFinished(patienceMs)) {
-        return -1;
-    }
-    return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    const bool hasEnded = process.state() == QProcess::NotRunning || process.waitForFinished(patienceMs);
+    return hasEnded && process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
 }
 
 QString Process::output()
@@ -89,5 +133,5 @@ void Process::read()
 {
     // Takes in what has arrived; without an event loop nothing else would.
     process.waitForReadyRead(0);
-    collected += QString::fromUtf8(process.readAll());
+    collected += textOf(process.readAll());
 }

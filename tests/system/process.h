@@ -6,6 +6,15 @@
 
 #include <functional>
 
+/// The programs of the build or, where the environment variable NELVO_TEST_PROGRAMS names a folder, those in
+/// it: what is packed or installed is tested by the same tests.
+QString chambersimProgram();
+QString nelvoProgram();
+
+/// Has the station show its window nowhere or, on Windows, where it is shipped with no such platform, on the
+/// screen.
+QString stationPlatform();
+
 /// A program of the project, run for a test: its output is collected, and it is ended with this object.
 class Process
 {
@@ -22,12 +31,15 @@ public:
     /// Waits until the output has `text` `times` times.
     bool waitForText(const QString& text, int times = 1);
 
-    /// Asks the program to end and waits for it.
+    /// Asks the program to end, as closing its window does, and waits for it.
     void terminate();
+    /// Ends it without asking.
+    void kill();
 
+    qint64 id() const { return process.processId(); }
     bool isRunning();
-    /// Waits until the program has ended by itself, and says what it ended with; -1 when it does not within
-    /// 20 s or was ended by a signal.
+    /// Waits for the program to end by itself; its exit status, or -1 when it has not ended after 20 s or
+    /// broke down.
     int exitCode();
     QString output();
     /// Forgets the output so far.

@@ -12,19 +12,11 @@ using namespace TestText;
 
 namespace {
 
+const QStringList seed{"--seed"_s, "7"_s};
+
 QStringList words(const char* text)
 {
     return QString::fromLatin1(text).split(QLatin1Char(' '));
-}
-
-std::unique_ptr<Process> newChamber(const QStringList& faults)
-{
-    auto chamber = std::make_unique<Process>(QStringLiteral(CHAMBERSIM_PROGRAM),
-        QStringList{"--listen"_s, ownLoopbackAddress(), "--seed"_s, "7"_s} + faults);
-    if (!chamber->waitForText("listening "_s)) {
-        qFatal("the simulator does not listen");
-    }
-    return chamber;
 }
 
 } // namespace
@@ -81,11 +73,11 @@ private slots:
     void livesOnWhenRepliesStop()
     {
         QFETCH(QStringList, faults);
-        const std::unique_ptr<Process> chamber = newChamber(faults);
+        Chamber chamber(seed + faults);
         station = std::make_unique<HandledStation>();
         QVERIFY(station->isUp());
-        QVERIFY(chamber->waitForText("fault "_s));
-        chamber->terminate();
+        QVERIFY(chamber.waitForText("fault "_s));
+        chamber.kill();
         station->click("AllCloseB"_s);
         expectAnAnsweredClick();
         expectSilence();
@@ -93,10 +85,10 @@ private slots:
 
     void livesOnWhenItsConnectionIsCut()
     {
-        const std::unique_ptr<Process> chamber = newChamber(words("--fault cut=0.2"));
+        Chamber chamber(seed + words("--fault cut=0.2"));
         station = std::make_unique<HandledStation>();
         QVERIFY(station->isUp());
-        QVERIFY(chamber->waitForText("disconnected"_s));
+        QVERIFY(chamber.waitForText("disconnected"_s));
         QVERIFY(station->process().waitFor(
             [](const QString&) { return fileText("NelvoJournal.log"_s).contains("\tlost\t"); }));
         station->click("AllCloseB"_s);

@@ -12,7 +12,6 @@ using namespace TestText;
 
 namespace {
 
-const QString station = QStringLiteral(NELVO_PROGRAM);
 const QStringList seed{"--seed"_s, "7"_s};
 const QString english = "\"GPIB shutter controll [xxxxxxx]\""_s;
 const QString japanese = "\"GPIB シャッター制御 [xxxxxxx]\""_s;
@@ -28,13 +27,29 @@ bool recordGrowsBeyond(Process& running, int lines)
     return running.waitFor([&](const QString&) { return fileText(recordFile).count('\n') > lines; });
 }
 
+#ifdef Q_OS_WIN
+const QString programEnding = ".exe"_s;
+#else
+const QString programEnding;
+#endif
+
+// Has the station be started under another name as well.
+bool giveName(const QString& program)
+{
+#ifdef Q_OS_WIN
+    return QFile::copy(nelvoProgram(), program); // a link would be started under its target's name
+#else
+    return QFile::link(nelvoProgram(), program);
+#endif
+}
+
 // The station at the chamber's address.
 class Nelvo : public Process
 {
 public:
-    explicit Nelvo(const QStringList& arguments = {}, const QString& program = station)
+    explicit Nelvo(const QStringList& arguments = {}, const QString& program = nelvoProgram())
         : Process(program, arguments,
-            {"NELVO_ADAPTER="_s + ownLoopbackAddress(), "QT_QPA_PLATFORM=offscreen"_s, "LC_ALL=C.UTF-8"_s})
+            {"NELVO_ADAPTER="_s + ownLoopbackAddress(), stationPlatform(), "LC_ALL=C.UTF-8"_s})
     {
     }
 };
@@ -100,9 +115,9 @@ private slots:
 
         QTemporaryDir directory;
         QVERIFY(directory.isValid());
-        const QString program = directory.filePath(name);
+        const QString program = directory.filePath(name + programEnding);
         QVERIFY(QDir().mkpath(QFileInfo(program).path()));
-        QVERIFY(QFile::link(station, program));
+        QVERIFY(giveName(program));
         Nelvo nelvo(arguments, program);
         QVERIFY(nelvo.waitForText(expected));
     }

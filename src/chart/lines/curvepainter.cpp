@@ -27,7 +27,7 @@ Uprights uprightsOn(
 
 CurvePen curvePen(const QPainter& painter, const PlotMapping& mapping, double width)
 {
-    const QTransform device = painter.deviceTransform();
+    const QTransform& device = painter.deviceTransform();
     const Uprights uprights = uprightsOn(*painter.paintEngine(), device, mapping, width);
     // On a scaled display the toolkit applies the scale twice to the width of a line without length.
     const bool isScaled = device.type() == QTransform::TxScale && device.m11() == device.m22();

@@ -96,10 +96,11 @@ QVector<RowRange> repeatedRows(const PointBuffer& points, const PlotMapping& map
         before = row;
     }
     QVector<RowRange> runs;
-    for (double row = open.top; row <= open.bottom; ++row) {
-        if (!isRepeated[static_cast<std::size_t>(row - open.top)]) {
+    for (std::size_t i = 0; i < isRepeated.size(); ++i) {
+        if (!isRepeated[i]) {
             continue;
         }
+        const double row = open.top + static_cast<double>(i);
         if (runs.isEmpty() || runs.constLast().bottom < row - 1.0) {
             runs.append({row, row});
         }

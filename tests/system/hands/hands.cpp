@@ -97,6 +97,10 @@ QString Hands::answer(const QStringList& words)
         QTest::mouseClick(widget, Qt::LeftButton);
         return ok();
     }
+    if (verb == QLatin1String("where")) {
+        const QPoint middle = widget->mapToGlobal(widget->rect().center());
+        return ok(QStringLiteral("%1 %2").arg(middle.x()).arg(middle.y()));
+    }
     if (verb == QLatin1String("text")) {
         return ok(widget->property("text").toString());
     }

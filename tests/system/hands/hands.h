@@ -11,9 +11,9 @@ class QWidget;
 /// local socket, a line each, does to the real window what they ask for and answers in a line.
 ///
 /// A request is a verb and its words, tabs between: "click NAME", "type NAME TEXT", "text NAME", "style
-/// NAME", "status", "widgets" (the style that they are drawn in), "close" (the window), "clock" (what the
-/// system's clock says, ms since the epoch), "load FILE", "grab FILE". The answer is "ok" and what was asked
-/// for, or "error" and why.
+/// NAME", "where NAME" (its middle on the screen: x, a blank, y), "status", "widgets" (the style that they
+/// are drawn in), "close" (the window), "clock" (what the system's clock says, ms since the epoch), "load
+/// FILE", "grab FILE". The answer is "ok" and what was asked for, or "error" and why.
 class Hands : public QObject
 {
     Q_OBJECT
