@@ -15,6 +15,23 @@ double rateOf(int shutter, const Rates& rates)
     return rates.nmPerSec.at(static_cast<size_t>(shutter));
 }
 
+// As crystals are named: In0.20Ga0.80As, Al0.30Ga0.70As.
+QStringList inTheirOrder(const QStringList& elements)
+{
+    QStringList ordered;
+    for (const char* first : {"In", "Al", "Ga"}) {
+        if (elements.contains(QLatin1String(first))) {
+            ordered.append(QLatin1String(first));
+        }
+    }
+    for (const QString& element : elements) {
+        if (!ordered.contains(element)) {
+            ordered.append(element);
+        }
+    }
+    return ordered;
+}
+
 // The elements of a role whose shutters are open and that have no rate, each once.
 QStringList others(const QVector<bool>& shutters, const Rates& rates, Role role)
 {
@@ -49,8 +66,8 @@ QString sharesText(const ElementRates& elements)
     const QList<double> rates = elements.values();
     const double all = std::accumulate(rates.begin(), rates.end(), 0.0);
     QString text;
-    for (auto element = elements.begin(); element != elements.end(); ++element) {
-        text += element.key() + QString::number(element.value() / all, 'f', 2);
+    for (const QString& element : inTheirOrder(elements.keys())) {
+        text += element + QString::number(elements[element] / all, 'f', 2);
     }
     return text;
 }

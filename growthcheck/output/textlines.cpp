@@ -1,6 +1,9 @@
 #include "growthcheck/output/textlines.h"
 
+#include <QStringList>
 #include <QTextBoundaryFinder>
+
+#include <algorithm>
 
 namespace GrowthCheck {
 
@@ -20,6 +23,37 @@ bool isWide(QChar character)
 QString blanks(int count)
 {
     return QString(qMax(0, count), QLatin1Char(' '));
+}
+
+QString withoutBlanksBehind(QString line)
+{
+    while (line.endsWith(QLatin1Char(' '))) {
+        line.chop(1);
+    }
+    return line;
+}
+
+// What a line may be broken behind: words, and within Japanese ones wherever the script allows it. The
+// toolkit's rules alone would keep numbers together that blanks part.
+QStringList piecesOf(const QString& text)
+{
+    QStringList pieces;
+    for (int from = 0; from < text.size();) {
+        const int blank = text.indexOf(QLatin1Char(' '), from);
+        const int end = blank < 0 ? text.size() : blank + 1;
+        const QString word = text.mid(from, end - from);
+        from = end;
+        if (!std::any_of(word.begin(), word.end(), isWide)) {
+            pieces.append(word);
+            continue;
+        }
+        QTextBoundaryFinder finder(QTextBoundaryFinder::Line, word);
+        for (int start = 0, next = finder.toNextBoundary(); next >= 0; next = finder.toNextBoundary()) {
+            pieces.append(word.mid(start, next - start));
+            start = next;
+        }
+    }
+    return pieces;
 }
 
 } // namespace
@@ -43,35 +77,19 @@ QString rightAligned(const QString& text, int columns)
     return blanks(columns - columnsOf(text)) + text;
 }
 
-// Breaks where the script allows it: between words, and within Japanese text.
 QString wrapped(const QString& head, const QString& text, int indent)
 {
     QString lines;
     QString line = padded(head, indent);
-    int used = columnsOf(line);
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Line, text);
-    int from = 0;
-    for (int to = finder.toNextBoundary(); to >= 0; to = finder.toNextBoundary()) {
-        const QString piece = text.mid(from, to - from);
-        from = to;
-        const QString shown = piece.trimmed();
-        if (used > indent && used + columnsOf(shown) > reportColumns) {
-            lines += line.trimmed().isEmpty() ? QString() : line;
-            while (lines.endsWith(QLatin1Char(' '))) {
-                lines.chop(1);
-            }
-            lines += QLatin1Char('\n');
+    for (const QString& piece : piecesOf(text)) {
+        const bool isFull = columnsOf(line) + columnsOf(piece.trimmed()) > reportColumns;
+        if (isFull && columnsOf(line) > indent) {
+            lines += withoutBlanksBehind(line) + QLatin1Char('\n');
             line = blanks(indent);
-            used = indent;
         }
         line += piece;
-        used += columnsOf(piece);
     }
-    lines += line;
-    while (lines.endsWith(QLatin1Char(' '))) {
-        lines.chop(1);
-    }
-    return lines + QLatin1Char('\n');
+    return lines + withoutBlanksBehind(line) + QLatin1Char('\n');
 }
 
 } // namespace GrowthCheck

@@ -119,6 +119,16 @@ private slots:
         }
     }
 
+    void longListsFitToo()
+    {
+        putFile("long.dat"_s, "0 0 900 0 0 0 0 0 0 0 0 0 0 0 0 0 0 1400 ---NoGroup--- 1\n");
+        const CheckRun run = runCheck({"--start-all"_s, "25"_s, "long.dat"_s});
+        QVERIFY(run.out.contains(" 900.0\n"));
+        for (const QString& line : run.lines()) {
+            QVERIFY2(line.size() <= 80, qPrintable(line));
+        }
+    }
+
     void aDumpHoldsEveryStep()
     {
         for (quint32 seed = 0; seed < 50; ++seed) {

@@ -68,7 +68,7 @@ private slots:
         QTest::newRow("doped") << "xooxxxo"_s
                                << "GaAs:Si"_s;
         QTest::newRow("twice") << "ooooooo"_s
-                               << "Al0.24Ga0.56In0.20As:Be,Si"_s;
+                               << "In0.20Al0.24Ga0.56As:Be,Si"_s;
         QTest::newRow("without arsenic") << "xoxxxxx"_s
                                          << "Ga"_s;
         QTest::newRow("a dopant alone") << "xxooxxx"_s << QString();
