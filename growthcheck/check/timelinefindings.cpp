@@ -42,7 +42,7 @@ void checkLength(const Timeline& timeline, Findings& findings)
     if (timeline.stop == Timeline::Stop::TooMuch) {
         tell(findings, Kinds::checkStops, last.row,
             Words::tr(
-                "The check stops here, after %1: more than 20,000 different steps or 200,000 set points. "
+                "The check stops here, after %1: more than 20,000 different steps or 50,000 set points. "
                 "What follows is not looked at.")
                 .arg(place));
         return;

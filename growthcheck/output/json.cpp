@@ -28,14 +28,17 @@ QJsonObject rampObject(const PlannedRamp& ramp)
     return object;
 }
 
-QJsonArray setPointArray(const QVector<PlannedSetPoint>& setPoints)
+// One by one: there may be tens of thousands.
+void writeSetPoints(const QVector<PlannedSetPoint>& setPoints, const Sink& sink)
 {
-    QJsonArray array;
-    for (const PlannedSetPoint& setPoint : setPoints) {
-        array.append(jsonObject({{"cell", cellName(setPoint.channel)}, {"dueSec", inSeconds(setPoint.dueMs)},
-            {"degC", setPoint.degC}, {"sure", setPoint.isSure}}));
+    sink("[");
+    for (int i = 0; i < setPoints.size(); ++i) {
+        const PlannedSetPoint& setPoint = setPoints[i];
+        sink((i == 0 ? "" : ",")
+            + bytesOf(jsonObject({{"cell", cellName(setPoint.channel)}, {"dueSec", inSeconds(setPoint.dueMs)},
+                {"degC", setPoint.degC}, {"sure", setPoint.isSure}})));
     }
-    return array;
+    sink("]");
 }
 
 QJsonObject stepObject(const CheckedProgram& checked, const PlannedStep& step)
@@ -54,7 +57,6 @@ QJsonObject stepObject(const CheckedProgram& checked, const PlannedStep& step)
         ramps.append(rampObject(ramp));
     }
     object.insert(QStringLiteral("ramps"), ramps);
-    object.insert(QStringLiteral("setPoints"), setPointArray(step.setPoints));
     return object;
 }
 
@@ -101,18 +103,23 @@ void writeProgram(const CheckedProgram& checked, const Sink& sink)
     for (const Fold& fold : timeline.folds) {
         folds.append(foldObject(fold));
     }
-    QJsonObject object = jsonObject({{"program", checked.program.fileName},
-        {"steps", checked.program.steps.size()}, {"starts", timeline.starts},
-        {"operatorWaits", timeline.holds}, {"shownTotalSec", timeline.shownTotalSec},
-        {"playedSec", inSeconds(timeline.endMs)}, {"stop", stopWord(timeline.stop)},
-        {"worst", severityWord(worst(checked.findings))}, {"findings", findingArray(checked.findings)},
-        {"folds", folds}, {"setPointsBehindTheEnd", setPointArray(timeline.tail)}});
+    QJsonObject object
+        = jsonObject({{"program", checked.program.fileName}, {"steps", checked.program.steps.size()},
+            {"starts", timeline.starts}, {"operatorWaits", timeline.holds},
+            {"shownTotalSec", timeline.shownTotalSec}, {"playedSec", inSeconds(timeline.endMs)},
+            {"stop", stopWord(timeline.stop)}, {"worst", severityWord(worst(checked.findings))},
+            {"findings", findingArray(checked.findings)}, {"folds", folds}});
     if (checked.layers) {
         object.insert(QStringLiteral("layers"), layerObject(*checked.layers));
     }
-    sink('{' + membersOf(object) + ",\"timeline\":[");
+    sink('{' + membersOf(object) + ",\"setPointsBehindTheEnd\":");
+    writeSetPoints(timeline.tail, sink);
+    sink(",\"timeline\":[");
     for (int i = 0; i < timeline.steps.size(); ++i) {
-        sink((i == 0 ? "\n" : ",\n") + bytesOf(stepObject(checked, timeline.steps[i])));
+        const PlannedStep& step = timeline.steps[i];
+        sink((i == 0 ? "\n{" : ",\n{") + membersOf(stepObject(checked, step)) + ",\"setPoints\":");
+        writeSetPoints(step.setPoints, sink);
+        sink("}");
     }
     sink("]}");
 }

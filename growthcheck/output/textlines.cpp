@@ -81,13 +81,17 @@ QString wrapped(const QString& head, const QString& text, int indent)
 {
     QString lines;
     QString line = padded(head, indent);
+    int used = columnsOf(line);
     for (const QString& piece : piecesOf(text)) {
-        const bool isFull = columnsOf(line) + columnsOf(piece.trimmed()) > reportColumns;
-        if (isFull && columnsOf(line) > indent) {
+        const int columns = columnsOf(piece);
+        const int shown = piece.endsWith(QLatin1Char(' ')) ? columns - 1 : columns;
+        if (used + shown > reportColumns && used > indent) {
             lines += withoutBlanksBehind(line) + QLatin1Char('\n');
             line = blanks(indent);
+            used = indent;
         }
         line += piece;
+        used += columns;
     }
     return lines + withoutBlanksBehind(line) + QLatin1Char('\n');
 }

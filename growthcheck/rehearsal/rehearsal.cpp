@@ -10,7 +10,7 @@ namespace GrowthCheck {
 namespace {
 
 constexpr int mostSteps = 20000;
-constexpr int mostSetPoints = 200000;
+constexpr int mostSetPoints = 50000;
 constexpr int mostInTail = 10000; // set points a channel
 constexpr qint64 longestMs = 1000000LL * 366 * 24 * 3600 * 1000; // a million years
 constexpr int fewestFolded = 2; // passes: less is not worth a word

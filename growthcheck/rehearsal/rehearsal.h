@@ -13,7 +13,7 @@ namespace GrowthCheck {
 /// was sent last as soon as a polling round has read it; nobody touches the station.
 ///
 /// Passes of a group that begin alike are folded, so that two thousand million take no longer than three. A
-/// program that is not over after 20,000 steps or 200,000 set points all the same is looked at up to there.
+/// program that is not over after 20,000 steps or 50,000 set points all the same is looked at up to there.
 Timeline rehearse(const QVector<ProgramStep>& steps, const Assumptions& assumptions);
 
 } // namespace GrowthCheck

@@ -104,7 +104,8 @@ PlannedSetPoint RehearsedCells::send(int channel, qint64 untilMs, bool isReplace
     const qint64 leftMs = untilMs - setPoint.dueMs;
     setPoint.isSure = !isReplaced || leftMs >= roundMs;
     setPoint.degC = cell.ramp.step(readNumber(cell.target).value_or(0.0));
-    const bool changesNothing = cell.isSure && cell.shown == shownAfter(setPoint.degC);
+    const QString shown = shownAfter(setPoint.degC);
+    const bool changesNothing = cell.isSure && cell.shown == shown;
     cell.isSure = setPoint.isSure || changesNothing;
     if (cell.step == timeline.steps.size() - 1) {
         plan.outlastsStep = !setPoint.isSure;
@@ -127,7 +128,7 @@ PlannedSetPoint RehearsedCells::send(int channel, qint64 untilMs, bool isReplace
     cell.hasSent = true;
     if (cell.kind != Kind::None) {
         cell.kind = Kind::Known;
-        cell.shown = shownAfter(setPoint.degC);
+        cell.shown = shown;
     }
     return setPoint;
 }

@@ -364,8 +364,8 @@ journal, what it did.</source>
         <translation>%1 後に始まり、百万年たっても終わりません。</translation>
     </message>
     <message>
-        <source>The check stops here, after %1: more than 20,000 different steps or 200,000 set points. What follows is not looked at.</source>
-        <translation>%1 で打ち切ります。異なるステップが 20,000、または設定値が 200,000 を超えます。以降は見ていません。</translation>
+        <source>The check stops here, after %1: more than 20,000 different steps or 50,000 set points. What follows is not looked at.</source>
+        <translation>%1 で打ち切ります。異なるステップが 20,000、または設定値が 50,000 を超えます。以降は見ていません。</translation>
     </message>
     <message>
         <source>The station shows a total of %1 s and plays %2 s: every step begins up to 10 ms late, and waits at holds are not counted.</source>
