@@ -276,7 +276,7 @@ QString chosenLanguage(const QStringList& arguments)
     const QString behind = at >= 0 && at + 1 < arguments.size() ? arguments[at + 1] : QString();
     const QString prefix = QLatin1String("--") + languageName + QLatin1Char('=');
     const QStringList joined = arguments.filter(prefix);
-    const QString asked = joined.isEmpty() ? behind : joined.last().mid(prefix.size());
+    QString asked = joined.isEmpty() ? behind : joined.last().mid(prefix.size());
     if (!asked.isEmpty()) {
         return asked;
     }

@@ -110,6 +110,29 @@ private slots:
         }
     }
 
+    // The pictures of expected/ are what was drawn once and somebody looked at.
+    void anExamplesPictureIsWhatItWas_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char* name : {"superlattice", "hold-point", "doping-staircase"}) {
+            QTest::newRow(name) << QString::fromLatin1(name);
+        }
+    }
+
+    void anExamplesPictureIsWhatItWas()
+    {
+        QFETCH(QString, name);
+        putFile("program.dat"_s, fileText(QStringLiteral(NELVO_EXAMPLES "/") + name + ".dat"_s));
+        const QByteArray page = pageOf({"--start-all"_s, "25"_s});
+        const int from = page.indexOf("<div class=\"picture\"");
+        QByteArray picture
+            = page.mid(from, page.indexOf("<p class=\"values\"") - from).replace("><", ">\n<") + '\n';
+        putFile(name + ".picture.html"_s, picture);
+        QCOMPARE(QString::fromUtf8(picture).split(u'\n'),
+            QString::fromUtf8(fileText(QStringLiteral(NELVO_EXPECTED "/") + name + ".picture.html"_s))
+                .split(u'\n'));
+    }
+
     void itLoadsNothing()
     {
         const QByteArray page = pageOf({});
