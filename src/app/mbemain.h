@@ -131,8 +131,8 @@ private:
     // program/: playing it
     void stopProgram(const char* why);
     void showPaused();
-    void endStep(qint64 nowMs);
-    void startStep(qint64 nowMs);
+    void showStepEnded(int row, BlockCursor::Move move);
+    void beginStep(const StepPlan& plan);
     void showGroupCount();
     void journalProgram();
     void journalEdits();

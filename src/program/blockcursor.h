@@ -4,8 +4,8 @@
 
 #include <QVector>
 
-/// What the walk through a program has to know of its table. A row is asked for only when the walk reaches
-/// it, so the table may change meanwhile.
+/// What has to be known of a program's table to walk through it and to play it. A row is asked for only when
+/// the walk reaches it, so the table may change meanwhile.
 class ProgramRows
 {
 public:
@@ -15,6 +15,8 @@ public:
     virtual double timeSec(int row) const = 0;
     virtual QString group(int row) const = 0;
     virtual int times(int row) const = 0;
+    /// All that the row says.
+    virtual ProgramStep step(int row) const = 0;
 };
 
 /// A place in a program on its way through blocks and repeats.

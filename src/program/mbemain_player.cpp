@@ -6,38 +6,12 @@
 #include "journal/journal.h"
 #include "program/aline.h"
 #include "program/livetable.h"
+#include "program/steprows.h"
 #include "program/tablerows.h"
 
 #include <QTimer>
 
 namespace {
-
-// The table's rows, read once: the total time of many repeats asks for each of them many times.
-class RowsRead : public ProgramRows
-{
-public:
-    explicit RowsRead(const ProgramRows& table)
-    {
-        rows.reserve(table.count());
-        for (int k = 0; k < table.count(); ++k) {
-            rows.append({table.timeSec(k), table.group(k), table.times(k)});
-        }
-    }
-
-    int count() const override { return rows.size(); }
-    double timeSec(int row) const override { return rows[row].timeSec; }
-    QString group(int row) const override { return rows[row].group; }
-    int times(int row) const override { return rows[row].times; }
-
-private:
-    struct Row
-    {
-        double timeSec;
-        QString group;
-        int times;
-    };
-    QVector<Row> rows;
-};
 
 QString shownSeconds(double seconds)
 {
@@ -101,40 +75,37 @@ void MBEMain::APOneTick()
     if (!player.isToStart()) {
         showFigure(*DispTime01, shownSecondsOf(now - player.stepStartMs));
         showFigure(*DispTTime01, shownSecondsOf(now - player.progStartMs));
-        if (player.isStepOver(now)) {
-            endStep(now);
-        }
     }
-    if (player.isToStart()) {
-        startStep(now);
+    const int row = player.progWalk.curStep;
+    const PlayerTick tick = player.tick(TableRows(progLines), now);
+    if (tick.ended) {
+        showStepEnded(row, *tick.ended);
+    }
+    if (tick.begun) {
+        beginStep(*tick.begun);
+    }
+    if (tick.isOver) {
+        stopProgram("over");
     }
 }
 
-void MBEMain::endStep(qint64 nowMs)
+void MBEMain::showStepEnded(int row, BlockCursor::Move move)
 {
-    progLines[player.progWalk.curStep]->setMark(false);
-    const BlockCursor::Move move = player.endStep(TableRows(progLines), nowMs);
+    progLines[row]->setMark(false);
     if (move == BlockCursor::Move::Repeat || move == BlockCursor::Move::NextBlock) {
         showGroupCount();
     }
 }
 
-void MBEMain::startStep(qint64 nowMs)
+void MBEMain::beginStep(const StepPlan& plan)
 {
-    const int row = player.progWalk.curStep;
-    const StepPlan plan = row < progLines.size() ? planOf(progLines[row]->contents()) : StepPlan();
-    if (plan.kind == StepPlan::Kind::End) {
-        stopProgram("over");
-        return;
-    }
-    player.startStep(plan, nowMs);
     journalEdits();
     journalStep();
     if (player.progPaused) {
         showPaused();
         journal->write("hold");
     }
-    progLines[row]->setMark(true);
+    progLines[player.progWalk.curStep]->setMark(true);
     // Whether a channel is marked in use is not asked here.
     for (const StepRamp& ramp : plan.ramps) {
         restartRamp(ramp.channel, ramp.targetDegC, ramp.minutes);
@@ -147,7 +118,7 @@ void MBEMain::startStep(qint64 nowMs)
 
 void MBEMain::APCheck()
 {
-    showFigure(*DispTTime02, shownSeconds(totalTimeSec(RowsRead(TableRows(progLines)))));
+    showFigure(*DispTTime02, shownSeconds(totalTimeSec(StepRows(tableContents()))));
 }
 
 void MBEMain::showGroupCount()

@@ -5,12 +5,12 @@
 #include "base/panelstyle.h"
 #include "program/aline.h"
 #include "program/livetable.h"
+#include "program/steprows.h"
 
 #include <QTimer>
 
 namespace {
 
-constexpr int rowCount = 200;
 constexpr int headerRows = 2;
 
 } // namespace
@@ -29,7 +29,7 @@ void MBEMain::setupProgramTable()
     Program->setHorizontalSpacing(3);
     Program->setVerticalSpacing(4);
     setupProgramHeader();
-    for (int k = 0; k < rowCount; ++k) {
+    for (int k = 0; k < programRows; ++k) {
         auto* line = new aLine(SA01);
         line->placeInGrid(Program, k + headerRows);
         line->setStep(k + 1);

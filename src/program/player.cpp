@@ -45,6 +45,25 @@ bool Player::isStepOver(qint64 nowMs) const
     return stepPhase == Phase::Playing && static_cast<double>(nowMs - stepStartMs) > 1000.0 * stepTime;
 }
 
+PlayerTick Player::tick(const ProgramRows& rows, qint64 nowMs)
+{
+    PlayerTick done;
+    if (isStepOver(nowMs)) {
+        done.ended = endStep(rows, nowMs);
+    }
+    if (!isToStart()) {
+        return done;
+    }
+    const int row = progWalk.curStep;
+    const StepPlan plan = row < rows.count() ? planOf(rows.step(row)) : StepPlan();
+    done.isOver = plan.kind == StepPlan::Kind::End;
+    if (!done.isOver) {
+        startStep(plan, nowMs);
+        done.begun = plan;
+    }
+    return done;
+}
+
 BlockCursor::Move Player::endStep(const ProgramRows& rows, qint64 nowMs)
 {
     // Nobody can say when a hold should have ended.

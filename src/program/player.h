@@ -5,6 +5,8 @@
 
 #include <QVector>
 
+#include <optional>
+
 /// A ramp that a step starts.
 struct StepRamp
 {
@@ -32,12 +34,21 @@ struct StepPlan
 /// above 0, and last exactly as long as the step.
 StepPlan planOf(const ProgramStep& step);
 
-/// Where a program that is played stands. Times are in ms since the epoch. Whoever plays it ticks every 10
-/// ms: ends the step when isStepOver(), then starts the next one when there is one toStart(), both in one
-/// tick if need be.
+/// What a tick of the player did; a step may end and the next one begin in one tick.
+struct PlayerTick
+{
+    std::optional<BlockCursor::Move> ended; ///< the step that played ended, and the walk went on so
+    std::optional<StepPlan> begun; ///< a step or a hold began
+    bool isOver = false; ///< there is none to begin
+};
+
+/// Where a program that is played stands. Times are in ms since the epoch. Whoever plays it calls tick()
+/// every `tickMs`, but not while it pauses.
 struct Player
 {
     enum class Phase { ToStart, Playing };
+
+    static constexpr int tickMs = 10;
 
     bool progRunning = false;
     bool progPaused = false; ///< ticks do nothing; the clocks go on
@@ -55,8 +66,10 @@ struct Player
     bool isToStart() const { return stepPhase == Phase::ToStart; }
     /// Whether the row's time has passed, which a hold's always has.
     bool isStepOver(qint64 nowMs) const;
-    /// Goes on to the next row.
+    /// Goes on to the next row when the step is over, and begins the row that is to start; a hold pauses.
+    PlayerTick tick(const ProgramRows& rows, qint64 nowMs);
+
+private:
     BlockCursor::Move endStep(const ProgramRows& rows, qint64 nowMs);
-    /// Plays the current row, a hold or a step; a hold pauses.
     void startStep(const StepPlan& plan, qint64 nowMs);
 };

@@ -17,6 +17,7 @@ public:
     double timeSec(int row) const override { return lines[row]->time(); }
     QString group(int row) const override { return lines[row]->group(); }
     int times(int row) const override { return lines[row]->times(); }
+    ProgramStep step(int row) const override { return lines[row]->contents(); }
 
 private:
     const QList<aLine*>& lines;

@@ -27,18 +27,6 @@ QByteArray opening(int channel)
     return bytes;
 }
 
-// As printf's "%06.1f" in the C locale. printf itself would follow the machine's decimal point, and
-// QString::asprintf rounds halves away from zero where printf rounds them to even (101.25 to 101.2).
-QByteArray inSixCharacters(double degC)
-{
-    const bool isNumber = std::isfinite(degC);
-    std::ostringstream text;
-    text.imbue(std::locale::classic());
-    text << std::fixed << std::setprecision(1) << std::setw(6) << std::setfill(isNumber ? '0' : ' ')
-         << (isNumber ? std::internal : std::right) << degC;
-    return QByteArray::fromStdString(text.str());
-}
-
 } // namespace
 
 const QByteArray errorReply = QByteArrayLiteral("ER");
@@ -51,12 +39,24 @@ QByteArray readRequest(int channel)
     return opening(channel).append("M1").append(enquiry);
 }
 
+// As printf's "%06.1f" in the C locale. printf itself would follow the machine's decimal point, and
+// QString::asprintf rounds halves away from zero where printf rounds them to even (101.25 to 101.2).
+QByteArray valueText(double degC)
+{
+    const bool isNumber = std::isfinite(degC);
+    std::ostringstream text;
+    text.imbue(std::locale::classic());
+    text << std::fixed << std::setprecision(1) << std::setw(6) << std::setfill(isNumber ? '0' : ' ')
+         << (isNumber ? std::internal : std::right) << degC;
+    return QByteArray::fromStdString(text.str());
+}
+
 QByteArray setPoint(int channel, double degC)
 {
     if (!Channels::has(channel)) {
         return {};
     }
-    return opening(channel).append(startOfText).append("S1").append(inSixCharacters(degC)).append(endOfText);
+    return opening(channel).append(startOfText).append("S1").append(valueText(degC)).append(endOfText);
 }
 
 bool appendBlockCheck(char* message, int size)

@@ -23,11 +23,13 @@ extern const QByteArray errorReply;
 /// there is none of.
 QByteArray readRequest(int channel);
 
+/// The value in a set point's message: one decimal, rounded to nearest and exact halves to even, padded with
+/// zeros to six characters, sign and point included (25 is "0025.0", -5 is "-005.0"); 10000 and more take
+/// more. Always with a decimal point, whatever the locale.
+QByteArray valueText(double degC);
+
 /// The message that gives `channel` the set point `degC`, block check not yet appended; nothing for a channel
-/// that there is none of. The value
-/// has one decimal, rounded to nearest and exact halves to even, and is padded with zeros to six characters,
-/// sign and point included (25 is "0025.0", -5 is "-005.0"); 10000 and more take more. Always with a decimal
-/// point, whatever the locale.
+/// that there is none of.
 QByteArray setPoint(int channel, double degC);
 
 /// Appends the block check character, the exclusive-or of every byte of the NUL-terminated `message` from its

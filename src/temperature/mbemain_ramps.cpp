@@ -25,16 +25,15 @@ void MBEMain::startStopCell(int ch)
         journalCell("ramp-end", ch, {{"why", QStringLiteral("stopped")}});
         return;
     }
-    // A temperature that is not known counts as 0, and so does what is no number.
-    const double current = readNumber(currentLabels[ch]->text()).value_or(0.0);
-    const double duration = readNumber(durationEdits[ch]->text()).value_or(0.0);
-    const double target = targetOf(ch);
-    const Ramp::Plan plan = Ramp::plan(current, target, duration, riseRateLimits[ch]);
-    const JournalFields asked = {{"from", journalNumber(current)}, {"to", journalNumber(target)},
-        {"minutes", journalNumber(duration)}, {"rate", journalNumber(plan.rate)}};
+    targetOf(ch); // for its warning
+    const Ramp::Plan plan = Ramp::planOf(
+        currentLabels[ch]->text(), targetEdits[ch]->text(), durationEdits[ch]->text(), riseRateLimits[ch]);
+    const JournalFields asked
+        = {{"from", journalNumber(plan.currentDegC)}, {"to", journalNumber(plan.targetDegC)},
+            {"minutes", journalNumber(plan.durationMin)}, {"rate", journalNumber(plan.rate)}};
     if (plan.refusal != Ramp::Refusal::None) {
         const bool isTime = plan.refusal == Ramp::Refusal::Duration;
-        warn(refusalText(plan.refusal, ch, duration));
+        warn(refusalText(plan.refusal, ch, plan.durationMin));
         stopCell(ch); // a program's step may have refused to replace a ramp by this one
         journalCell("ramp-refused", ch,
             JournalFields{{"why", isTime ? QStringLiteral("time") : QStringLiteral("rise")}} + asked);

@@ -1,6 +1,5 @@
 #include "temperature/polling.h"
 
-#include "base/channels.h"
 #include "temperature/controllermessage.h"
 
 namespace {

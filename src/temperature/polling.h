@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/channels.h"
+
 #include <QByteArray>
 
 /// Where the polling of the temperature controllers stands: the channels are read one after the other, and
@@ -17,8 +19,13 @@ struct Polling
         NextChannel, ///< the reading is done
     };
 
-    /// Ticks in a cycle of the counter, at 10 ms each: after so many a reply is given up.
+    static constexpr int tickMs = 10;
+    /// Ticks in a cycle of the counter: after so many a reply is given up.
     static constexpr int cycleTicks = 300;
+    /// What a reading takes whose reply comes within a tick: Read, ReplyReady, RampStep, NextChannel.
+    static constexpr int ticksPerReading = 4;
+    /// A round of all channels, each read so. A due set point waits so long for its channel's turn.
+    static constexpr int leastRoundMs = Channels::count * ticksPerReading * tickMs;
 
     State watchState = State::Read;
     int tickCount = 99; ///< 0 to cycleTicks - 1

@@ -1,5 +1,7 @@
 #include "temperature/ramp.h"
 
+#include "base/number.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -29,6 +31,8 @@ Plan plan(double currentDegC, double targetDegC, double durationMin, double rise
 {
     Plan result;
     result.currentDegC = currentDegC;
+    result.targetDegC = targetDegC;
+    result.durationMin = durationMin;
     // Asked this way round, so that a duration that is no number is refused too.
     if (!(durationMin > 0.0)) {
         result.refusal = Refusal::Duration;
@@ -41,6 +45,13 @@ Plan plan(double currentDegC, double targetDegC, double durationMin, double rise
         result.refusal = Refusal::Duration;
     }
     return result;
+}
+
+Plan planOf(
+    const QString& currentDegC, const QString& targetDegC, const QString& durationMin, double riseLimit)
+{
+    return plan(readNumber(currentDegC).value_or(0.0), readNumber(targetDegC).value_or(0.0),
+        readNumber(durationMin).value_or(0.0), riseLimit);
 }
 
 void Run::start(const Plan& plan, qint64 nowMs)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QString>
 
 /// The arithmetic of a ramp: its rate, what is refused, and its set points in one-minute steps.
 namespace Ramp {
@@ -15,14 +15,20 @@ struct Plan
 {
     Refusal refusal = Refusal::None;
     double currentDegC = 0.0; ///< where it begins
+    double targetDegC = 0.0;
+    double durationMin = 0.0;
     double rate = 0.0; ///< deg C per minute, negative when falling
 };
 
 /// Plans a ramp from `currentDegC` to `targetDegC` in `durationMin` minutes. A duration that is not above 0
 /// is refused, and so is one so short that rate or set point would be no finite number; and a rise faster
-/// than
-/// |`riseLimit`| deg C per minute. A fall may be of any speed.
+/// than |`riseLimit`| deg C per minute. A fall may be of any speed.
 Plan plan(double currentDegC, double targetDegC, double durationMin, double riseLimit);
+
+/// The same from the texts of the cell panel: the temperature it shows and the entries. One that is not known
+/// ("----.-") counts as 0, and so does what is no number.
+Plan planOf(
+    const QString& currentDegC, const QString& targetDegC, const QString& durationMin, double riseLimit);
 
 /// A cell's ramp on its way. Times are in ms since the epoch.
 struct Run

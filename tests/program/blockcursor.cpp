@@ -27,6 +27,14 @@ public:
     double timeSec(int row) const override { return rows[row].time; }
     QString group(int row) const override { return rows[row].group; }
     int times(int row) const override { return rows[row].times; }
+    ProgramStep step(int row) const override
+    {
+        ProgramStep step;
+        step.timeSec = rows[row].time;
+        step.group = rows[row].group;
+        step.times = rows[row].times;
+        return step;
+    }
 
 private:
     const Table& rows;

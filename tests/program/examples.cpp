@@ -53,7 +53,7 @@ private slots:
     void everyProgramIsExplained()
     {
         const QStringList programs = folder.entryList({"*.dat"_s});
-        QCOMPARE(programs.size(), 3);
+        QCOMPARE(programs.size(), 5);
         for (QString name : programs) {
             QVERIFY(folder.exists(name.replace(".dat"_s, ".md"_s)));
         }
@@ -84,6 +84,8 @@ private slots:
         QTest::newRow("superlattice.dat") << "  19.0"_s << 14 << 0;
         QTest::newRow("hold-point.dat") << "  91.0"_s << 5 << 1;
         QTest::newRow("doping-staircase.dat") << " 181.0"_s << 10 << 0;
+        QTest::newRow("quantum-wells.dat") << "5327.6"_s << 20 << 1;
+        QTest::newRow("graded-buffer.dat") << "6262.4"_s << 259 << 1;
     }
 
     void programPlaysToItsEnd()

@@ -10,6 +10,8 @@
 
 Q_DECLARE_METATYPE(Ramp::Refusal)
 
+using namespace TestText;
+
 namespace {
 
 constexpr qint64 startMs = 1700000000000;
@@ -86,6 +88,40 @@ private slots:
             QCOMPARE(plan.rate, rate);
             QCOMPARE(plan.currentDegC, current);
         }
+    }
+
+    void plansFromThePanelsTexts_data()
+    {
+        QTest::addColumn<QString>("current");
+        QTest::addColumn<QString>("target");
+        QTest::addColumn<QString>("duration");
+        QTest::addColumn<double>("rate");
+        QTest::addColumn<Ramp::Refusal>("refusal");
+        QTest::newRow("numbers") << "100"_s
+                                 << "200.5"_s
+                                 << "2"_s << 50.25 << Ramp::Refusal::RiseTooFast;
+        QTest::newRow("not known") << "----.-"_s
+                                   << "30"_s
+                                   << "2"_s << 15.0 << Ramp::Refusal::None;
+        QTest::newRow("a target that is none") << "30"_s
+                                               << "8O"_s
+                                               << "2"_s << -15.0 << Ramp::Refusal::None;
+        QTest::newRow("a duration that is none") << "30"_s
+                                                 << "40"_s
+                                                 << "2m"_s << 0.0 << Ramp::Refusal::Duration;
+    }
+
+    void plansFromThePanelsTexts()
+    {
+        QFETCH(QString, current);
+        QFETCH(QString, target);
+        QFETCH(QString, duration);
+        const Ramp::Plan plan = Ramp::planOf(current, target, duration, 50.0);
+        QTEST(plan.rate, "rate");
+        QTEST(plan.refusal, "refusal");
+        QCOMPARE(plan.currentDegC, current.toDouble());
+        QCOMPARE(plan.targetDegC, target.toDouble());
+        QCOMPARE(plan.durationMin, duration.toDouble());
     }
 
     void setPointSeries_data()

@@ -71,24 +71,28 @@ class CatalogueTest : public QObject
 {
     Q_OBJECT
 
-    const QDir translations{QStringLiteral(NELVO_SOURCES "/translations")};
-
 private slots:
-    void initTestCase() { QVERIFY(!translations.entryList({"Nelvo_*.ts"_s}).isEmpty()); }
-
     void everyTextHasItsTranslation_data()
     {
-        QTest::addColumn<QString>("name");
-        for (const QString& name : translations.entryList({"Nelvo_*.ts"_s})) {
-            QTest::newRow(qPrintable(name)) << name;
+        QTest::addColumn<QString>("catalogue");
+        QTest::addColumn<QStringList>("sources");
+        const QString root = QStringLiteral(NELVO_ROOT);
+        const QDir translations(root + "/src/translations"_s);
+        const QStringList names = translations.entryList({"Nelvo_*.ts"_s});
+        QVERIFY(!names.isEmpty());
+        for (const QString& name : names) {
+            QTest::newRow(qPrintable(name)) << translations.filePath(name) << QStringList{root + "/src"_s};
         }
+        // It has the channels' names too.
+        QTest::newRow("growthcheck") << root + "/growthcheck/translations/growthcheck_ja_JP.ts"_s
+                                     << QStringList{root + "/growthcheck"_s, root + "/src/base/channels.h"_s};
     }
 
     void everyTextHasItsTranslation()
     {
-        QFETCH(QString, name);
-        const Catalogue catalogue = readCatalogue(translations.filePath(name));
-        for (auto entry = catalogue.begin(); entry != catalogue.end(); ++entry) {
+        QFETCH(QString, catalogue);
+        const Catalogue entries = readCatalogue(catalogue);
+        for (auto entry = entries.begin(); entry != entries.end(); ++entry) {
             const QByteArray source = entry.key().second.toUtf8();
             QVERIFY2(entry->state.isEmpty(), source + " is " + entry->state.toUtf8());
             QVERIFY2(source.isEmpty() == entry->translation.isEmpty(), source + " has no translation");
@@ -100,19 +104,20 @@ private slots:
 
     void itHoldsTheTextsOfTheSourcesAndNoOthers()
     {
-        QFETCH(QString, name);
-        const QString fresh = QDir::current().filePath(name);
+        QFETCH(QString, catalogue);
+        QFETCH(QStringList, sources);
+        const QString fresh = QDir::current().filePath("fresh.ts"_s);
         QFile::remove(fresh);
-        QVERIFY(QFile::copy(translations.filePath(name), fresh));
+        QVERIFY(QFile::copy(catalogue, fresh));
         QProcess lupdate;
         lupdate.setProcessChannelMode(QProcess::MergedChannels);
         lupdate.start(QStringLiteral(LUPDATE_PROGRAM),
-            {"-silent"_s, "-locations"_s, "none"_s, "-no-obsolete"_s, QStringLiteral(NELVO_SOURCES), "-ts"_s,
-                fresh});
+            QStringList{"-silent"_s, "-locations"_s, "none"_s, "-no-obsolete"_s} + sources
+                + QStringList{"-ts"_s, fresh});
         QVERIFY2(lupdate.waitForFinished(), qPrintable(lupdate.errorString()));
         QVERIFY2(lupdate.exitCode() == 0, lupdate.readAll().constData());
-        // To mend: lupdate -locations none -no-obsolete src -ts src/translations/NAME, then translate.
-        QCOMPARE(readCatalogue(translations.filePath(name)).keys(), readCatalogue(fresh).keys());
+        // To mend: lupdate -locations none -no-obsolete SOURCES -ts CATALOGUE, then translate.
+        QCOMPARE(readCatalogue(catalogue).keys(), readCatalogue(fresh).keys());
     }
 };
 

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "growthcheck/check/finding.h"
+#include "program/programstep.h"
+
+#include <QVector>
+
+namespace GrowthCheck {
+
+/// What is to be said of the table's rows as they stand: groups and repeats, rows that are never reached,
+/// holds and short steps.
+Findings checkRows(const QVector<ProgramStep>& steps);
+
+} // namespace GrowthCheck

@@ -1,0 +1,145 @@
+// growthcheck's options and exit statuses.
+
+#include "growthcheck/app/options.h"
+#include "growthcheck/support/checkrun.h"
+#include "growthcheck/support/programtext.h"
+#include "support/files.h"
+#include "support/testmain.h"
+#include "support/testtext.h"
+
+using namespace TestText;
+using GrowthCheck::Assumptions;
+using Kind = GrowthCheck::Assumptions::Start::Kind;
+
+namespace {
+
+GrowthCheck::CommandLine commandLineOf(const QStringList& words, bool isFromDesktop = false)
+{
+    return GrowthCheck::readCommandLine(QStringList{"growthcheck"_s} + words, isFromDesktop);
+}
+
+} // namespace
+
+class CheckCommandLineTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        putFile("clean.dat"_s, programText({"t=10 open=Ga"_s, "t=1"_s}));
+        putFile("noted.dat"_s, programText({"t=-1 open=As4"_s, "t=1"_s}));
+        putFile("warned.dat"_s, programText({"t=10 open=Ga"_s}));
+        putFile("wrong.dat"_s, programText({"t=12,5"_s}));
+    }
+
+    void theStatusTellsTheOutcome_data()
+    {
+        QTest::addColumn<QStringList>("words");
+        QTest::addColumn<int>("status");
+        const auto add = [](const char* name, const QStringList& words, int status) {
+            QTest::newRow(name) << words << status;
+        };
+        add("clean", {"clean.dat"_s}, 0);
+        add("notes", {"noted.dat"_s}, 0);
+        add("a warning", {"warned.dat"_s}, 1);
+        add("an error", {"wrong.dat"_s}, 1);
+        add("one of several", {"clean.dat"_s, "warned.dat"_s, "clean.dat"_s}, 1);
+        add("no file", {"absent.dat"_s}, 2);
+        add("no file among others", {"warned.dat"_s, "absent.dat"_s, "clean.dat"_s}, 2);
+        add("a folder", {"."_s}, 2);
+        add("no rates", {"--layers"_s, "absent.txt"_s, "clean.dat"_s}, 2);
+        add("no journal of the start", {"--start-from-journal"_s, "absent.log"_s, "clean.dat"_s}, 2);
+        add("help", {"--help"_s}, 0);
+        add("version", {"--version"_s}, 0);
+        add("nothing", {}, 64);
+        add("an unknown option", {"--colour"_s, "clean.dat"_s}, 64);
+        add("two outputs", {"--csv"_s, "--json"_s, "clean.dat"_s}, 64);
+        add("two programs for one dump", {"--vcd"_s, "clean.dat"_s, "noted.dat"_s}, 64);
+        add("no such cell", {"--start"_s, "Xe=20"_s, "clean.dat"_s}, 64);
+        add("no temperature", {"--start"_s, "Ga=hot"_s, "clean.dat"_s}, 64);
+        add("no temperature of all", {"--start-all"_s, "20C"_s, "clean.dat"_s}, 64);
+        add("no time", {"--at"_s, "tomorrow"_s, "clean.dat"_s}, 64);
+        add("no wait", {"--hold"_s, "-1"_s, "clean.dat"_s}, 64);
+        add("no reply", {"--reply"_s, "3001"_s, "clean.dat"_s}, 64);
+        add("no language", {"--language"_s, "fr"_s, "clean.dat"_s}, 64);
+        add("no run", {"compare"_s, "--run"_s, "0"_s, "clean.dat"_s, "journal"_s}, 64);
+        add("compare with nothing", {"compare"_s, "clean.dat"_s}, 64);
+    }
+
+    void theStatusTellsTheOutcome()
+    {
+        QFETCH(QStringList, words);
+        QFETCH(int, status);
+        const CheckRun run = runCheck(words);
+        QCOMPARE(run.status, status);
+        QCOMPARE(run.complaints.isEmpty(), status < 2);
+        QCOMPARE(run.complaints.count(u'\n'), status < 2 ? 0 : 1);
+    }
+
+    void temperaturesOfTheStartAreTold()
+    {
+        const auto starts = commandLineOf({"--start"_s, "Ga=850"_s, "--start-all"_s, "300"_s, "--start"_s,
+                                              "main ch=none"_s, "--start=Ga=851.5"_s, "p.dat"_s})
+                                .options.assumptions.starts;
+        QCOMPARE(starts[0].kind, Kind::Known);
+        QCOMPARE(starts[0].degC, 300.0);
+        QCOMPARE(starts[1].degC, 851.5);
+        QCOMPARE(starts[7].kind, Kind::None);
+        QCOMPARE(commandLineOf({"p.dat"_s}).options.assumptions.starts[1].kind, Kind::NotTold);
+    }
+
+    void aJournalTellsThem()
+    {
+        const QByteArray stamp = "2026-11-21T09:41:07.123+09:00\t12.346\t";
+        putFile("journal.log"_s,
+            stamp + "minute\tmeasured=1 2 3 4 5 6 7 8 9\tset-points=0 0 0 0 0 0 0 0 0\n" + stamp
+                + "minute\tmeasured=25.5 850 ----.- 4 5 6 7 8 9\tset-points=0 0 0 0 0 0 0 0 0\n" + stamp
+                + "step\tstep=1\tgroup=a minute\tmeasured=9\n" + stamp + "min");
+        putFile("ramps.dat"_s, programText({"t=60 Be=26 Ga=851 Si=10 As4=5"_s, "t=1"_s}));
+        const CheckRun run = runCheck(
+            {"--start-from-journal"_s, "journal.log"_s, "--start"_s, "As4=4.5"_s, "--csv"_s, "ramps.dat"_s});
+        QStringList starts;
+        for (const QString& line : run.lines().filter(",ramp,"_s)) {
+            starts.append(line.section(u',', 10, 10) + u' ' + line.section(u',', 12));
+        }
+        QCOMPARE(starts, QStringList({"Be from 25.5"_s, "Ga from 850"_s, "Si from 0"_s, "As4 from 4.5"_s}));
+    }
+
+    void aJournalWithoutTemperaturesIsNone()
+    {
+        putFile("journal.log"_s, "2026-11-21T09:41:07.123+09:00\t12.346\tstart\tversion=1\n");
+        QCOMPARE(runCheck({"--start-from-journal"_s, "journal.log"_s, "clean.dat"_s}).status, 2);
+    }
+
+    void aDroppedProgramGetsItsPage()
+    {
+        const GrowthCheck::Options dropped = commandLineOf({"a folder/My.Program.DAT"_s}, true).options;
+        QVERIFY(dropped.isDropped);
+        QCOMPARE(dropped.page, "a folder/My.Program.html"_s);
+        QVERIFY(!commandLineOf({"p.dat"_s}).options.isDropped);
+        QVERIFY(!commandLineOf({"p.txt"_s}, true).options.isDropped);
+        QVERIFY(!commandLineOf({"--csv"_s, "p.dat"_s}, true).options.isDropped);
+        QVERIFY(!commandLineOf({"p.dat"_s, "q.dat"_s}, true).options.isDropped);
+    }
+
+    void helpNamesEveryOptionAndStatus()
+    {
+        const CheckRun run = runCheck({"--help"_s});
+        for (const char* word : {"--start", "--at", "--hold", "--reply", "--layers", "--json", "--csv",
+                 "--vcd", "--wire", "--html", "--run", "--language", "--version", "compare", "64"}) {
+            QVERIFY2(run.out.contains(word), word);
+        }
+        for (const QString& line : run.lines()) {
+            QVERIFY2(line.size() <= 80, qPrintable(line));
+        }
+    }
+
+    void theVersionIsTheStations()
+    {
+        QCOMPARE(runCheck({"--version"_s}).out, QByteArray("growthcheck " NELVO_VERSION "\n"));
+    }
+};
+
+NELVO_TEST_MAIN(CheckCommandLineTest)
+#include "checkcommandline.moc"
