@@ -78,7 +78,22 @@ void LinkJournal::lineArrived(const QByteArray& line, bool wasAwaited)
         --awaitedLines;
         return;
     }
-    journal.write("unasked-line", {{"line", textOf(line)}});
+    tellUnasked(line);
+}
+
+// At most one a second, and no more than its beginning: a flood of lines would take the link's time and the
+// journal's room.
+void LinkJournal::tellUnasked(const QByteArray& line)
+{
+    constexpr qint64 pauseMs = 1000;
+    constexpr int longestBeginning = 100;
+    const qint64 now = WallClock::nowMs();
+    if (now < nextUnaskedMs) {
+        ++untoldLines;
+        return;
+    }
+    nextUnaskedMs = now + pauseMs;
+    journal.write("unasked-line", {{"line", textOf(line.left(longestBeginning))}});
 }
 
 void LinkJournal::followReading(const QByteArray& line)
@@ -113,6 +128,10 @@ void LinkJournal::followShift(bool isOwn, const QByteArray& line)
 
 void LinkJournal::tick()
 {
+    if (untoldLines > 0 && WallClock::nowMs() >= nextUnaskedMs) {
+        journal.write("unasked-lines", {{"count", QString::number(untoldLines)}});
+        untoldLines = 0;
+    }
     if (isAwaiting && !isHeldTold && WallClock::nowMs() - awaitedSinceMs > heldMs) {
         isHeldTold = true;
         journal.write("bus-held");

@@ -103,8 +103,25 @@ private slots:
         link->replyAwaited();
         link->lineArrived("late", false);
         QCOMPARE(journalEvents(), QStringList());
+        DrivenClock::advance(1000);
         link->lineArrived("late", false);
         QCOMPARE(journalEvents(), QStringList({"unasked-line line=late"_s}));
+    }
+
+    void aFloodOfLinesIsCounted()
+    {
+        for (int i = 0; i < 100000; ++i) {
+            link->lineArrived(QByteArray(1000, 'x'), false);
+        }
+        link->tick();
+        QCOMPARE(journalEvents(), QStringList({"unasked-line line="_s + QString(100, u'x')}));
+        DrivenClock::advance(999);
+        link->tick();
+        QCOMPARE(journalEvents(), QStringList());
+        DrivenClock::advance(1);
+        link->tick();
+        link->tick();
+        QCOMPARE(journalEvents(), QStringList({"unasked-lines count=99999"_s}));
     }
 
     void readingsUnderTheWrongChannelAreTold()
