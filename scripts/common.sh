@@ -11,6 +11,7 @@ build_packages=(g++ cmake ninja-build ccache qtbase5-dev qttools5-dev qttools5-d
 window_packages=(fonts-noto-cjk libfaketime qttranslations5-l10n)
 demo_packages=(fonts-noto-cjk xvfb xdotool openbox)
 check_packages=(clang-format clang-tidy)
+fuzz_packages=(clang libclang-rt-14-dev)
 
 # need_packages NAME...: installs the Debian packages that are missing.
 need_packages() {

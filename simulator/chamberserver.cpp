@@ -27,7 +27,7 @@ ChamberServer::ChamberServer(const Options& chosen, EventSink sink, Clock driven
     : options(chosen)
     , log(std::move(sink))
     , clock(driven ? std::move(driven) : [this] { return steady.elapsed(); })
-    , rack(chosen.seed)
+    , rack(chosen.seed, chosen.spreadDegC)
     , faults(chosen.faultRates, chosen.seed)
     , jitter(chosen.seed, jitterStream)
 {
@@ -173,6 +173,7 @@ void ChamberServer::flush()
     const QByteArray due = queue.takeDue(clock());
     if (!due.isEmpty()) {
         client->write(due);
+        emit sent(due);
     }
     if (!queue.isEmpty()) {
         dueTimer.start(static_cast<int>(qMax<qint64>(0, queue.nextDueMs() - clock())));

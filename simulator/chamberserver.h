@@ -55,6 +55,8 @@ signals:
     void received(const QByteArray& bytes);
     /// The client is gone, of its own will or by a fault.
     void clientLeft();
+    /// Bytes are on their way to the client.
+    void sent(const QByteArray& bytes);
 
 private:
     void acceptClients();

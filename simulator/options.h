@@ -14,6 +14,8 @@ struct Options
     QHostAddress listenAddress = QHostAddress(QHostAddress::LocalHost);
     quint16 port = 1234; ///< 0 takes a free one
     quint64 seed = 1; ///< of noise and faults
+    double spreadDegC
+        = 0.0; ///< how much warmer each cell rests than the one before it; for tests, which tell cells by it
     double timeScale = 1.0; ///< seconds of the thermal model in one real second; more than 0
     int latencyMs = 5; ///< how long a reply takes, give or take jitterMs, but never less than 0
     int jitterMs = 2;

@@ -4,8 +4,8 @@
 
 namespace Chamber {
 
-Rack::Rack(quint64 seed)
-    : controllers(seed)
+Rack::Rack(quint64 seed, double spreadDegC)
+    : controllers(seed, spreadDegC)
 {
 }
 

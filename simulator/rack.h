@@ -20,7 +20,8 @@ public:
         bool fromInstrument = false; ///< an instrument's reply, not the adapter's own
     };
 
-    explicit Rack(quint64 seed);
+    /// For `seed` and `spreadDegC` see ThermalModel.
+    explicit Rack(quint64 seed, double spreadDegC = 0.0);
 
     /// Acts on one line of the client at `modelSec`, a time in s that never runs back.
     Outcome take(const AdapterLine& line, double modelSec);

@@ -1,5 +1,6 @@
 #include "simulator/recording.h"
 
+#include "journal/journal.h"
 #include "journal/journalline.h"
 
 #include <QFile>
@@ -34,6 +35,19 @@ public:
         lastSec = line.elapsedSec;
     }
 
+    bool takeFile(QFile& file)
+    {
+        if (!file.open(QIODevice::ReadOnly)) {
+            return false;
+        }
+        while (!file.atEnd()) {
+            if (const std::optional<JournalLine> line = readJournalLine(file.readLine())) {
+                take(*line);
+            }
+        }
+        return true;
+    }
+
     const Recording& recording() const { return found; }
 
 private:
@@ -46,16 +60,15 @@ private:
 
 std::optional<Recording> readRecording(const QString& name, QString& error)
 {
+    Reader reader;
+    for (int number = Journal::olderFiles; number > 0; --number) {
+        QFile older(QStringLiteral("%1.%2").arg(name).arg(number));
+        reader.takeFile(older); // there need not be one
+    }
     QFile file(name);
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (!reader.takeFile(file)) {
         error = QStringLiteral("cannot read %1: %2").arg(name, file.errorString());
         return std::nullopt;
-    }
-    Reader reader;
-    while (!file.atEnd()) {
-        if (const std::optional<JournalLine> line = readJournalLine(file.readLine())) {
-            reader.take(*line);
-        }
     }
     if (reader.recording().commands.isEmpty()) {
         error = QStringLiteral("%1 holds no bytes; the station writes them with NELVO_JOURNAL=--wire")

@@ -24,8 +24,8 @@ struct Recording
 };
 
 /// Reads the last run of the journal `name` that has bytes in it (the station writes them where NELVO_JOURNAL
-/// is
-/// "--wire"). Nothing when the file cannot be read or has none; `error` then says so in a line.
+/// is "--wire"), the older files beside it included. Nothing when the file cannot be read or has none;
+/// `error` then says so in a line.
 std::optional<Recording> readRecording(const QString& name, QString& error);
 
 } // namespace Chamber

@@ -8,12 +8,13 @@
 
 namespace Chamber {
 
-ReplayServer::ReplayServer(Recording toPlay, const Options& chosen, EventSink sink)
+ReplayServer::ReplayServer(Recording toPlay, const Options& chosen, EventSink sink, Clock driven)
     : recording(std::move(toPlay))
     , options(chosen)
     , log(std::move(sink))
+    , clock(driven ? std::move(driven) : [this] { return steady.elapsed(); })
 {
-    clock.start();
+    steady.start();
     dueTimer.setSingleShot(true);
     dueTimer.setTimerType(Qt::PreciseTimer);
     connect(&dueTimer, &QTimer::timeout, this, &ReplayServer::flush);
@@ -51,12 +52,13 @@ void ReplayServer::receive()
     if (came.isEmpty()) {
         return;
     }
+    emit received(came);
     if (recording.commands.mid(position, came.size()) != came) {
         tellDifference(came);
         return;
     }
     position += came.size();
-    lastDueMs = qMax(lastDueMs, clock.elapsed());
+    lastDueMs = qMax(lastDueMs, clock());
     scheduleReplies();
     if (isOver()) {
         log("replayed to the end");
@@ -94,12 +96,13 @@ void ReplayServer::scheduleReplies()
 
 void ReplayServer::flush()
 {
-    const QByteArray due = queue.takeDue(clock.elapsed());
+    const QByteArray due = queue.takeDue(clock());
     if (!due.isEmpty()) {
         client->write(due);
+        emit sent(due);
     }
     if (!queue.isEmpty()) {
-        dueTimer.start(static_cast<int>(qMax<qint64>(0, queue.nextDueMs() - clock.elapsed())));
+        dueTimer.start(static_cast<int>(qMax<qint64>(0, queue.nextDueMs() - clock())));
     }
 }
 

@@ -24,12 +24,20 @@ class ReplayServer : public QObject
 public:
     using EventSink = std::function<void(const QByteArray& event)>;
 
-    ReplayServer(Recording toPlay, const Options& chosen, EventSink sink);
+    /// Gives a time in ms that never runs back.
+    using Clock = std::function<qint64()>;
+
+    /// Lives by the machine's steady clock, or by `driven` where there is one; then replies leave when tick()
+    /// is called and their time has come.
+    ReplayServer(Recording toPlay, const Options& chosen, EventSink sink, Clock driven = nullptr);
 
     /// Listens where the options say. False when that cannot be, errorString() then tells why.
     bool listen();
     QString errorString() const { return server.errorString(); }
     quint16 port() const { return server.serverPort(); }
+
+    /// With a driven clock: sends what is due.
+    void tick() { flush(); }
 
     /// How much of the recorded commands has come.
     int matched() const { return position; }
@@ -42,6 +50,10 @@ signals:
     /// The client sent something else; what and where was told.
     void differed();
     void clientLeft();
+    /// Bytes came from the client.
+    void received(const QByteArray& bytes);
+    /// Bytes are on their way to the client.
+    void sent(const QByteArray& bytes);
 
 private:
     void admit();
@@ -55,7 +67,8 @@ private:
     const EventSink log;
     QTcpServer server;
     QTcpSocket* client = nullptr; ///< owned by the server
-    QElapsedTimer clock;
+    QElapsedTimer steady;
+    const Clock clock; ///< ms
     QTimer dueTimer;
     SendQueue queue;
     int position = 0; // in the commands

@@ -14,8 +14,8 @@ QByteArray unitName(int unit)
 
 } // namespace
 
-TemperatureControllers::TemperatureControllers(quint64 seed)
-    : model(seed)
+TemperatureControllers::TemperatureControllers(quint64 seed, double spreadDegC)
+    : model(seed, spreadDegC)
 {
 }
 

@@ -19,8 +19,8 @@ public:
         QByteArray event; ///< for the log; empty for a read
     };
 
-    /// `seed` determines the noise of the measurements.
-    explicit TemperatureControllers(quint64 seed);
+    /// For `seed` and `spreadDegC` see ThermalModel.
+    explicit TemperatureControllers(quint64 seed, double spreadDegC = 0.0);
 
     /// Obeys a message at `modelSec`. A read gives the measured value; a set point gives "OK" and the event
     /// "setpoint 01 120.0"; anything wrong changes nothing and gives "ER" and "rejected 01" or, when no

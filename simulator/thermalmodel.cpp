@@ -10,9 +10,15 @@ constexpr quint64 noiseStream = 1000;
 
 } // namespace
 
-ThermalModel::ThermalModel(quint64 seed)
+ThermalModel::ThermalModel(quint64 seed, double spreadDegC)
     : noise(seed, noiseStream)
 {
+    double degC = startDegC;
+    for (Cell& cell : cells) {
+        cell.fromDegC = degC;
+        cell.setPointDegC = degC;
+        degC += spreadDegC;
+    }
 }
 
 void ThermalModel::setSetPoint(int cell, double degC, double nowSec)

@@ -17,8 +17,9 @@ public:
     static constexpr double substrateLagSec = 90.0;
     static constexpr double noiseDegC = 0.05; ///< standard deviation of a measurement
 
-    /// All cells rest at startDegC with that as their set point. `seed` determines the noise.
-    explicit ThermalModel(quint64 seed);
+    /// The first cell rests at startDegC with that as its set point, each other one `spreadDegC` above the
+    /// one before it. `seed` determines the noise.
+    explicit ThermalModel(quint64 seed, double spreadDegC = 0.0);
 
     /// From `nowSec` on the cell heads for `degC`.
     void setSetPoint(int cell, double degC, double nowSec);

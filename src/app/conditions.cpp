@@ -40,7 +40,7 @@ void Conditions::load(const QString& fname)
         file.close();
     }
 
-    replaceFile(fileName, dump(conds));
+    saved = replaceFile(fileName, dump(conds));
 }
 
 QString Conditions::value(const QString& key)
@@ -52,5 +52,5 @@ void Conditions::setValue(const QString& key, const QString& value)
 {
     conds[key.simplified()] = value.simplified();
 
-    appendToFile(fileName, dump(conds));
+    saved = appendToFile(fileName, dump(conds));
 }

@@ -31,7 +31,11 @@ public:
     /// Stores the pair, both with white space simplified, and appends the whole store to the file.
     void setValue(const QString& key, const QString& value);
 
+    /// Whether the last writing of the file, by either of them, went well.
+    bool isSaved() const { return saved; }
+
 private:
     QString fileName;
+    bool saved = true;
     QMap<QString, QString> conds;
 };

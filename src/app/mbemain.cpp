@@ -25,6 +25,7 @@ MBEMain::MBEMain()
     conditions->load(QStringLiteral("NelvoCurrentStat.dat"));
 
     setupJournal();
+    journalState();
 
     gpib = new GPIB;
     gpib->setObserver(*linkJournal);

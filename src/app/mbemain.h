@@ -86,12 +86,14 @@ private:
     // journal/
     void setupJournal();
     void journalTick();
+    void journalState();
     void journalCell(const char* kind, int ch, const JournalFields& fields);
 
     // shutter/
     void setupShutter();
     /// Makes the states, one a shutter, true = open, the commanded ones, and has them shown and sent.
     void commandShutters(const QVector<bool>& open);
+    void journalShutterWait();
 
     // temperature/: the controllers' messages. All are false when nothing was sent.
     bool SndTMPCtrl(char* msg, int size, bool addBcc, bool waitReply);
@@ -116,6 +118,7 @@ private:
     bool rampStep(int ch);
     void showElapsed();
     void recordTMP();
+    void journalRecord(bool isWritten);
 
     // program/: the table and its files
     void setupProgram();
@@ -159,6 +162,7 @@ private:
     QVector<bool> nextShutterState; // wanted, true = open
     QVector<bool> currentShutterState; // commanded, true = open
     QTimer* actionTimer = nullptr;
+    QString waitingShutters; // the command that waits for the bus, in letters
     qint64 shutterWaitSinceMs = 0; // ms since the epoch: a command waits for the bus; 0 when none does
 
     // temperature/: the cell panel
@@ -178,6 +182,7 @@ private:
     QVector<Ramp::Run> ramps; // cellRunning, rampStartMs, rampNextMs, rampRate, rampSetPoint
     QTimer* watchTimer = nullptr;
     QVector<int> failedReadings; // in a row
+    int lostRecords = 0; // in a row
     Polling polling; // watchState, tickCount, sentTick, lastRampTick, pollCh, rampCh, tmpReply
 
     // program/: the table, 200 rows for the life of the window

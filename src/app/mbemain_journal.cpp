@@ -1,6 +1,7 @@
 // What the journal is told that belongs to no room alone: start and end, time, the minute's temperatures.
 
 #include "app/adapteraddress.h"
+#include "app/conditions.h"
 #include "app/mbemain.h"
 #include "base/awakeclock.h"
 #include "base/wallclock.h"
@@ -55,6 +56,14 @@ void MBEMain::journalPc(const QString& asked, const QString& answer)
 void MBEMain::journalSessionEnd(bool isHeldUp)
 {
     journal->write("session-end", {{"held-up", isHeldUp ? QStringLiteral("yes") : QStringLiteral("no")}});
+}
+
+// A state file that could not be written: the next start will show an older state.
+void MBEMain::journalState()
+{
+    if (!conditions->isSaved()) {
+        journal->write("state-failed");
+    }
 }
 
 void MBEMain::journalCell(const char* kind, int ch, const JournalFields& fields)

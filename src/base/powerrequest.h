@@ -17,5 +17,5 @@ public:
     void release();
 
 private:
-    void* request = nullptr; // the platform's, while one is held
+    [[maybe_unused]] void* request = nullptr; // the platform's, while one is held
 };

@@ -162,8 +162,7 @@ void GPIB::write(const QByteArray& bytes)
 {
     // The socket closes itself when its connection breaks while bytes are on their way; it would complain
     // about every later one.
-    if (socket != nullptr && socket->isOpen()) {
-        socket->write(bytes);
+    if (socket != nullptr && socket->isOpen() && socket->write(bytes) == bytes.size()) {
         observer->sent(bytes);
     }
 }

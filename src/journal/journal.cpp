@@ -43,12 +43,18 @@ void Journal::write(const char* kind, const JournalFields& fields)
 {
     JournalLine line = lineNow(kind);
     line.fields = fields;
-    append(journalText(line));
+    if (openBatches > 0) {
+        batch += journalText(line);
+        ++batchLines;
+        return;
+    }
+    append(journalText(line), 1);
 }
 
-void Journal::append(const QByteArray& text)
+// `text` has `count` lines.
+void Journal::append(const QByteArray& text, int count)
 {
-    if (QFileInfo(fileName).size() + text.size() > largestFile) {
+    if (QFileInfo(fileName).size() + text.size() > fullAt) {
         rotate();
     }
     QByteArray lines = text;
@@ -60,16 +66,40 @@ void Journal::append(const QByteArray& text)
     if (appendToFile(fileName, lines)) {
         lostLines = 0;
     } else {
-        ++lostLines;
+        lostLines += count;
     }
 }
 
-// A file that cannot be put aside, as when somebody has it open, is written on.
+// Each file moves up into the first place that is free; only where none is does the oldest go.
 void Journal::rotate()
 {
-    QFile::remove(older(fileName, olderFiles));
-    for (int number = olderFiles - 1; number >= 0; --number) {
-        QFile::rename(older(fileName, number), older(fileName, number + 1));
+    constexpr qint64 untilTriedAgain = qint64{1024} * 1024;
+    int free = 1;
+    while (free < olderFiles && QFile::exists(older(fileName, free))) {
+        ++free;
+    }
+    if (free == olderFiles) {
+        QFile::remove(older(fileName, olderFiles));
+    }
+    while (free > 0 && QFile::rename(older(fileName, free - 1), older(fileName, free))) {
+        --free;
+    }
+    fullAt = free == 0 ? largestFile : QFileInfo(fileName).size() + untilTriedAgain;
+}
+
+JournalBatch::JournalBatch(Journal& target)
+    : journal(target)
+{
+    ++journal.openBatches;
+}
+
+JournalBatch::~JournalBatch()
+{
+    --journal.openBatches;
+    if (journal.openBatches == 0 && journal.batchLines > 0) {
+        journal.append(journal.batch, journal.batchLines);
+        journal.batch.clear();
+        journal.batchLines = 0;
     }
 }
 

@@ -7,7 +7,8 @@
 /// What happened, a line an event, in a file that outlives the program: appended and flushed a line at a
 /// time, so that nothing is lost but what a crash cut off.
 ///
-/// At 8 MiB the file is put aside as NAME.1, the one before it as NAME.2, and so on; four of them are kept. A
+/// At 8 MiB the file is put aside as NAME.1, the one before it as NAME.2, and so on; four of them are kept.
+/// Where a file cannot be moved, as when somebody has it open, none is given up and the last is written on. A
 /// full disk or a closed folder costs the lines and nothing else; how many were lost is told as soon as there
 /// is room.
 class Journal
@@ -26,13 +27,33 @@ public:
     void write(const char* kind, const JournalFields& fields = {});
 
 private:
-    void append(const QByteArray& text);
+    friend class JournalBatch;
+
+    void append(const QByteArray& text, int count);
     void rotate();
     JournalLine lineNow(const char* kind) const;
 
     QString fileName;
     qint64 startMs; // the program's start by WallClock
     qint64 lostLines = 0;
+    qint64 fullAt = largestFile;
+    int openBatches = 0;
+    QByteArray batch;
+    int batchLines = 0;
+};
+
+/// Has all lines that are written during its life appended at once, when it ends: what is commanded meanwhile
+/// does not wait for a file to be opened and closed for each of them.
+class JournalBatch
+{
+public:
+    explicit JournalBatch(Journal& target);
+    ~JournalBatch();
+    JournalBatch(const JournalBatch&) = delete;
+    JournalBatch& operator=(const JournalBatch&) = delete;
+
+private:
+    Journal& journal;
 };
 
 /// A number as journals and panels show it: up to six significant digits.

@@ -12,6 +12,7 @@ QString timeFormat()
     return QStringLiteral("yyyy-MM-ddTHH:mm:ss.zzz");
 }
 
+constexpr int dateLength = 10;
 constexpr int timeLength = 23; // of a time in that format, the offset from UTC behind it
 constexpr int secPerHour = 3600;
 
@@ -65,17 +66,19 @@ std::optional<QString> unescaped(const QString& text)
 // The time with its offset, "2026-11-21T09:41:07.123+09:00", into `line`; false when it is none.
 bool readTime(const QString& text, JournalLine& line)
 {
-    QDateTime time = QDateTime::fromString(text.left(timeLength), timeFormat());
+    const QDate date = QDate::fromString(text.left(dateLength), Qt::ISODate);
+    const QTime time
+        = QTime::fromString(text.mid(dateLength, timeLength - dateLength), QStringLiteral("THH:mm:ss.zzz"));
     const QString offset = text.mid(timeLength);
     const QTime size = QTime::fromString(offset.mid(1), QStringLiteral("HH:mm"));
     const bool hasSign = offset.startsWith(QLatin1Char('+')) || offset.startsWith(QLatin1Char('-'));
-    if (!time.isValid() || !size.isValid() || !hasSign) {
+    if (!date.isValid() || !time.isValid() || !size.isValid() || !hasSign) {
         return false;
     }
     const int sizeSec = size.hour() * secPerHour + size.minute() * 60;
     line.offsetSec = offset.startsWith(QLatin1Char('-')) ? -sizeSec : sizeSec;
-    time.setOffsetFromUtc(line.offsetSec);
-    line.systemMs = time.toMSecsSinceEpoch();
+    // By its own offset alone: the reader's time zone may lack the hour.
+    line.systemMs = QDateTime(date, time, Qt::OffsetFromUTC, line.offsetSec).toMSecsSinceEpoch();
     return true;
 }
 

@@ -12,6 +12,12 @@ bool isQuery(const QByteArray& bytes)
     return bytes == "++eoi\n" || bytes == "++addr\n" || bytes == "++auto\n";
 }
 
+// Every byte a character; NUL, which closes all shutters, is one too.
+QString textOf(const QByteArray& bytes)
+{
+    return QString::fromLatin1(bytes.constData(), bytes.size());
+}
+
 } // namespace
 
 LinkJournal::LinkJournal(Journal& target, bool everyByte)
@@ -37,14 +43,14 @@ void LinkJournal::sent(const QByteArray& bytes)
         readUnit = bytes.endsWith("M1\x05\n") ? bytes[2] : '\0';
     }
     if (tellsBytes) {
-        journal.write("sent", {{"bytes", QString::fromLatin1(bytes)}});
+        journal.write("sent", {{"bytes", textOf(bytes)}});
     }
 }
 
 void LinkJournal::received(const QByteArray& bytes)
 {
     if (tellsBytes) {
-        journal.write("received", {{"bytes", QString::fromLatin1(bytes)}});
+        journal.write("received", {{"bytes", textOf(bytes)}});
     }
 }
 
@@ -72,7 +78,22 @@ void LinkJournal::lineArrived(const QByteArray& line, bool wasAwaited)
         --awaitedLines;
         return;
     }
-    journal.write("unasked-line", {{"line", QString::fromLatin1(line)}});
+    tellUnasked(line);
+}
+
+// At most one a second, and no more than its beginning: a flood of lines would take the link's time and the
+// journal's room.
+void LinkJournal::tellUnasked(const QByteArray& line)
+{
+    constexpr qint64 pauseMs = 1000;
+    constexpr int longestBeginning = 100;
+    const qint64 now = WallClock::nowMs();
+    if (now < nextUnaskedMs) {
+        ++untoldLines;
+        return;
+    }
+    nextUnaskedMs = now + pauseMs;
+    journal.write("unasked-line", {{"line", textOf(line.left(longestBeginning))}});
 }
 
 void LinkJournal::followReading(const QByteArray& line)
@@ -91,8 +112,7 @@ void LinkJournal::followShift(bool isOwn, const QByteArray& line)
         if (strangeReadings == 0) {
             shiftedSinceMs = WallClock::nowMs();
             journal.write("readings-shifted",
-                {{"asked", QStringLiteral("0") + QLatin1Char(readUnit)},
-                    {"line", QString::fromLatin1(line)}});
+                {{"asked", QStringLiteral("0") + QLatin1Char(readUnit)}, {"line", textOf(line)}});
         }
         ++strangeReadings;
         return;
@@ -108,6 +128,10 @@ void LinkJournal::followShift(bool isOwn, const QByteArray& line)
 
 void LinkJournal::tick()
 {
+    if (untoldLines > 0 && WallClock::nowMs() >= nextUnaskedMs) {
+        journal.write("unasked-lines", {{"count", QString::number(untoldLines)}});
+        untoldLines = 0;
+    }
     if (isAwaiting && !isHeldTold && WallClock::nowMs() - awaitedSinceMs > heldMs) {
         isHeldTold = true;
         journal.write("bus-held");

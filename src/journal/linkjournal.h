@@ -28,15 +28,18 @@ public:
     void replyAwaited() override;
     void lineArrived(const QByteArray& line, bool wasAwaited) override;
 
-    /// A bus that is held by now is told.
+    /// Tells a bus that is held by now, and how many unasked lines came behind the last one that was told.
     void tick();
 
 private:
+    void tellUnasked(const QByteArray& line);
     void followReading(const QByteArray& line);
     void followShift(bool isOwn, const QByteArray& line);
 
     Journal& journal;
     bool tellsBytes;
+    int untoldLines = 0; // unasked ones
+    qint64 nextUnaskedMs = 0;
     int awaitedLines = 0; // answers that have still to come, the adapter's own included
     char readUnit = 0; // the digit of the controller that was asked last; 0 when the last message was no read
     int ownReadings = 0; // in a row, up to as many as there are channels

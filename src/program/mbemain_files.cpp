@@ -30,6 +30,9 @@ QFileDialog* newDialog(const QString& name, QFileDialog::AcceptMode mode)
     auto* dialog = new QFileDialog(nullptr, QString(), programFolder(), QStringLiteral("*.dat"));
     dialog->setObjectName(name);
     dialog->setAcceptMode(mode);
+    // The system's own would open in the first folder again, would not come to the front when it is asked for
+    // twice, and speaks the system's language.
+    dialog->setOption(QFileDialog::DontUseNativeDialog);
     // A dialog left open must not keep the program running once its window is closed.
     dialog->setAttribute(Qt::WA_QuitOnClose, false);
     return dialog;

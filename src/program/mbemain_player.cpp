@@ -99,6 +99,7 @@ void MBEMain::showStepEnded(int row, BlockCursor::Move move)
 
 void MBEMain::beginStep(const StepPlan& plan)
 {
+    const JournalBatch together(*journal); // the ramps and the shutters come first
     journalEdits();
     journalStep();
     if (player.progPaused) {

@@ -48,6 +48,7 @@ QVector<ProgramStep> MBEMain::tableContents() const
 
 void MBEMain::journalProgram()
 {
+    const JournalBatch together(*journal);
     journaledTable = tableContents();
     const QByteArray text = textOf(journaledTable).toUtf8();
     const QByteArray digest = QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex();

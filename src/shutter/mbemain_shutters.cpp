@@ -75,15 +75,27 @@ void MBEMain::commandShutters(const QVector<bool>& open)
     ActionShutter();
 }
 
+// The first time, and whenever something else waits: a bus that never comes free must not hide what was asked
+// for.
+void MBEMain::journalShutterWait()
+{
+    if (shutterWaitSinceMs == 0) {
+        shutterWaitSinceMs = WallClock::nowMs();
+    }
+    const QString letters = shutterLetters(currentShutterState);
+    if (letters != waitingShutters) {
+        waitingShutters = letters;
+        journal->write("shutters-wait", {{"open", letters}});
+    }
+}
+
 void MBEMain::ActionShutter()
 {
     // A reply is pending only while the temperature controllers are addressed, so the address decides
     // nothing; it says what the test is about.
     if (gpib->address() != shutterAddress && gpib->isReplyPending()) {
         NELVO_DEBUG("shutter") << "Shutter retrying";
-        if (shutterWaitSinceMs == 0) {
-            shutterWaitSinceMs = WallClock::nowMs();
-        }
+        journalShutterWait();
         actionTimer->setInterval(10);
         actionTimer->setSingleShot(true);
         actionTimer->start();
@@ -113,6 +125,7 @@ void MBEMain::ActionShutter()
 
     const qint64 waitedMs = shutterWaitSinceMs == 0 ? 0 : WallClock::nowMs() - shutterWaitSinceMs;
     shutterWaitSinceMs = 0;
+    waitingShutters.clear();
     journal->write("shutters",
         {{"open", shutterLetters(currentShutterState)}, {"waited-ms", QString::number(waitedMs)},
             {"link", gpib->isUp() ? QStringLiteral("up") : QStringLiteral("down")}});

@@ -87,4 +87,5 @@ void MBEMain::ActivateCell()
     conditions->setValue(activeKey(n), cellActive[n] ? QStringLiteral("Active") : QStringLiteral("InActive"));
     showCellActive(n);
     journalCell("in-use", n, {{"is", cellActive[n] ? QStringLiteral("Active") : QStringLiteral("InActive")}});
+    journalState();
 }

@@ -61,7 +61,7 @@ void MBEMain::journalReading(int ch)
     const bool failed = polling.tmpReply == ControllerMessage::errorReply;
     if (failed && failedReadings[ch] == 0) {
         journalCell("reading-failed", ch,
-            {{"why", gpib->isReplyPending() ? QStringLiteral("silence") : QStringLiteral("error")}});
+            {{"why", polling.isGivenUp ? QStringLiteral("silence") : QStringLiteral("error")}});
     }
     if (!failed && failedReadings[ch] > 0) {
         journalCell("reading-back", ch, {{"failed", QString::number(failedReadings[ch])}});

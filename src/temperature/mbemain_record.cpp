@@ -2,6 +2,7 @@
 
 #include "app/mbemain.h"
 #include "base/wallclock.h"
+#include "journal/journal.h"
 #include "temperature/recordline.h"
 
 #include <QFile>
@@ -19,7 +20,18 @@ void MBEMain::recordTMP()
     }
     Tshow->update();
 
-    if (isOpen) {
-        file.write(Record::line(elapsedSec, values));
+    const QByteArray line = Record::line(elapsedSec, values);
+    journalRecord(isOpen && file.write(line) == line.size() && file.flush());
+}
+
+// The first line of several that had no room, and the line that has it again.
+void MBEMain::journalRecord(bool isWritten)
+{
+    if (!isWritten && lostRecords == 0) {
+        journal->write("record-failed");
     }
+    if (isWritten && lostRecords > 0) {
+        journal->write("record-back", {{"lost", QString::number(lostRecords)}});
+    }
+    lostRecords = isWritten ? 0 : lostRecords + 1;
 }

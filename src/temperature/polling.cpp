@@ -23,6 +23,7 @@ void Polling::awaitReply()
 {
     if (tickCount == sentTick) {
         tmpReply = ControllerMessage::errorReply;
+        isGivenUp = true;
         watchState = State::ReplyReady;
     }
 }
@@ -30,6 +31,7 @@ void Polling::awaitReply()
 void Polling::takeReply(const QByteArray& line)
 {
     tmpReply = line;
+    isGivenUp = false;
     if (watchState == State::AwaitReply) {
         watchState = State::ReplyReady;
     }

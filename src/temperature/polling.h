@@ -34,6 +34,7 @@ struct Polling
     int pollCh = 0;
     int rampCh = 0;
     QByteArray tmpReply; ///< the last accepted line; "ER" for an error or a time-out
+    bool isGivenUp = false; ///< whether it is a time-out's
 
     /// Read: the channel is not in use.
     void skipChannel();

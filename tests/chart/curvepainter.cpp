@@ -123,6 +123,8 @@ void CurvePainterTest::aCurveStandsWhereItBelongsOnAnyPainter_data()
     QTest::newRow("stretched sideways") << QTransform::fromScale(2.0, 1.0);
     QTest::newRow("enlarged") << QTransform::fromScale(1.75, 1.75);
     QTest::newRow("reduced") << QTransform::fromScale(0.4, 0.4);
+    QTest::newRow("narrowed and stretched") << QTransform::fromScale(0.25, 4.0);
+    QTest::newRow("flattened and widened") << QTransform::fromScale(4.0, 0.25);
     QTest::newRow("mirrored sideways") << QTransform(-1, 0, 0, 1, 640, 0);
     QTest::newRow("mirrored upside down") << QTransform(1, 0, 0, -1, 0, 400);
     QTest::newRow("turned") << QTransform(0, 1, -1, 0, 400, 0);

@@ -119,6 +119,52 @@ private slots:
         QCOMPARE(files, QStringList({name, name + ".1"_s, name + ".2"_s, name + ".3"_s, name + ".4"_s}));
     }
 
+    // As a file leaves it that could not be moved on because somebody had it open.
+    void aGapIsFilledBeforeTheOldestGoes()
+    {
+        for (const int number : {1, 3, 4}) {
+            putFile("%1.%2"_s.arg(name).arg(number), QByteArray::number(number));
+        }
+        putFile(name, QByteArray(static_cast<int>(Journal::largestFile), '\n'));
+        Journal().write("minute");
+        QCOMPARE(QFile(name + ".1"_s).size(), qint64(Journal::largestFile));
+        QCOMPARE(fileText(name + ".2"_s), QByteArray("1"));
+        QCOMPARE(fileText(name + ".3"_s), QByteArray("3"));
+        QCOMPARE(fileText(name + ".4"_s), QByteArray("4"));
+    }
+
+    void whatIsWrittenTogetherIsAppendedAtOnceAndInOrder()
+    {
+        Journal journal;
+        {
+            const JournalBatch outer(journal);
+            journal.write("step");
+            {
+                const JournalBatch inner(journal);
+                journal.write("ramp");
+            }
+            QVERIFY(!QFile::exists(name));
+        }
+        journal.write("exit");
+        QCOMPARE(linesOf().size(), 3);
+        QCOMPARE(linesOf().first().kind, "step"_s);
+        QCOMPARE(linesOf().last().kind, "exit"_s);
+    }
+
+    void theLossOfLinesWrittenTogetherIsCounted()
+    {
+        QVERIFY(QDir().mkdir(name));
+        Journal journal;
+        {
+            const JournalBatch batch(journal);
+            journal.write("step");
+            journal.write("ramp");
+        }
+        QVERIFY(QDir().rmdir(name));
+        journal.write("exit");
+        QCOMPARE(linesOf().first().value("count"_s), "2"_s);
+    }
+
     void aFileIsPutAsideNoEarlier()
     {
         Journal journal;

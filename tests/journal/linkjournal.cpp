@@ -56,10 +56,12 @@ private slots:
         link->received("1\r\n");
         QCOMPARE(journalEvents(), QStringList());
         link = std::make_unique<LinkJournal>(journal, true);
-        link->sent("\x1B\x05\n");
+        link->sent(Wire::shutters(0x05));
+        link->sent(Wire::shutters(0x00));
         link->received("a\\b\r\n\xFF");
         QCOMPARE(journalEvents(),
-            QStringList({"sent bytes=\\x1b\\x05\\x0a"_s, "received bytes=a\\\\b\\x0d\\x0aÿ"_s}));
+            QStringList({"sent bytes=\\x1b\\x05\\x0a"_s, "sent bytes=\\x1b\\x00\\x0a"_s,
+                "received bytes=a\\\\b\\x0d\\x0aÿ"_s}));
     }
 
     void aHeldBusIsToldOnceAndWhenItIsFree()
@@ -101,8 +103,25 @@ private slots:
         link->replyAwaited();
         link->lineArrived("late", false);
         QCOMPARE(journalEvents(), QStringList());
+        DrivenClock::advance(1000);
         link->lineArrived("late", false);
         QCOMPARE(journalEvents(), QStringList({"unasked-line line=late"_s}));
+    }
+
+    void aFloodOfLinesIsCounted()
+    {
+        for (int i = 0; i < 100000; ++i) {
+            link->lineArrived(QByteArray(1000, 'x'), false);
+        }
+        link->tick();
+        QCOMPARE(journalEvents(), QStringList({"unasked-line line="_s + QString(100, u'x')}));
+        DrivenClock::advance(999);
+        link->tick();
+        QCOMPARE(journalEvents(), QStringList());
+        DrivenClock::advance(1);
+        link->tick();
+        link->tick();
+        QCOMPARE(journalEvents(), QStringList({"unasked-lines count=99999"_s}));
     }
 
     void readingsUnderTheWrongChannelAreTold()

@@ -5,6 +5,8 @@
 #include "support/stationtest.h"
 #include "support/testmain.h"
 
+#include <QDir>
+
 using namespace TestText;
 
 class StationJournalTest : public OpenStationTest
@@ -57,7 +59,13 @@ private slots:
             journalEvents({"connected"_s}), QStringList({"shutters open=xxoxxxx waited-ms=0 link=up"_s}));
         station->tick();
         station->click(cell("CS", 6)); // a reading is awaited now
+        QCOMPARE(journalEvents(), QStringList({"shutters-wait open=xxoxxxo"_s}));
+        callSlot(&station->window(), "ActionShutter", 5); // as actionTimer does
         QCOMPARE(journalEvents(), QStringList());
+        station->click(cell("CS", 0));
+        QCOMPARE(journalEvents(), QStringList({"shutters-wait open=oxoxxxo"_s}));
+        station->click(cell("CS", 0));
+        QCOMPARE(journalEvents(), QStringList({"shutters-wait open=xxoxxxo"_s}));
         DrivenClock::advance(700);
         station->adapter.send("ER\r\n");
         callSlot(&station->window(), "ActionShutter");
@@ -65,6 +73,27 @@ private slots:
             QStringList({"shutters open=xxoxxxo waited-ms=700 link=up"_s}));
         station->click("AllCloseB"_s);
         QCOMPARE(journalEvents(), QStringList({"shutters open=xxxxxxx waited-ms=0 link=up"_s}));
+    }
+
+    void failedWritesAreTold()
+    {
+        station->close();
+        Station::storeInUse({});
+        QVERIFY(station->open());
+        QFile::remove(recordFile);
+        QFile::remove(stateFile);
+        QVERIFY(QDir().mkdir(recordFile));
+        QVERIFY(QDir().mkdir(stateFile));
+        journalEvents();
+        station->tick(2 * Station::emptyRound);
+        QCOMPARE(journalEvents().filter("record-"_s), QStringList({"record-failed"_s}));
+        QVERIFY(QDir().rmdir(recordFile));
+        station->tick(Station::emptyRound);
+        QCOMPARE(journalEvents().filter("record-"_s), QStringList({"record-back lost=2"_s}));
+        station->click(cell("TCActive", 1));
+        QCOMPARE(
+            journalEvents({"connected"_s}), QStringList({"in-use cell=Ga is=Active"_s, "state-failed"_s}));
+        QVERIFY(QDir().rmdir(stateFile));
     }
 
     void aRampIsToldFromItsBeginToItsEnd()
@@ -166,6 +195,16 @@ private slots:
 
     void aSilentControllerIsTold()
     {
+        station->tick(301);
+        station->tick();
+        QCOMPARE(journalEvents().filter("reading-"_s), QStringList({"reading-failed cell=Be why=silence"_s}));
+    }
+
+    // A line that is no reading frees the bus; "ER" was not said.
+    void aReplyOfTheWrongLengthIsTakenForSilence()
+    {
+        station->tick();
+        station->adapter.send("0100021.0\r\n");
         station->tick(301);
         station->tick();
         QCOMPARE(journalEvents().filter("reading-"_s), QStringList({"reading-failed cell=Be why=silence"_s}));

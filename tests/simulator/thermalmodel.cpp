@@ -29,6 +29,14 @@ private slots:
         }
     }
 
+    void cellsRestApartWhenThatIsWanted()
+    {
+        const ThermalModel model(1, 111.0);
+        QCOMPARE(model.temperature(0, 1e6), 25.0);
+        QCOMPARE(model.temperature(8, 0.0), 913.0);
+        QCOMPARE(model.setPoint(8), 913.0);
+    }
+
     void cellsFollowWithTheirLag()
     {
         ThermalModel model(1);

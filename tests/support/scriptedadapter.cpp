@@ -106,6 +106,12 @@ void ScriptedAdapter::post(const QByteArray& bytes)
     client->flush();
 }
 
+void ScriptedAdapter::stopTaking()
+{
+    client->setReadBufferSize(1); // what is more stays with the system
+    disconnect(client, &QTcpSocket::readyRead, this, nullptr);
+}
+
 void ScriptedAdapter::cut()
 {
     if (client != nullptr) {

@@ -48,6 +48,8 @@ public:
     /// Sends `bytes` at once, to a program that is already connected; the caller turns the event loop.
     void post(const QByteArray& bytes);
 
+    /// From here on nothing is taken from the program; it stays connected.
+    void stopTaking();
     /// Cuts the connection; listening goes on.
     void cut();
 

@@ -3,7 +3,6 @@
 #include "support/files.h"
 
 #include <QFile>
-#include <QStatusBar>
 #include <QtTest>
 
 using namespace TestText;
@@ -57,76 +56,8 @@ void Station::storeInUse(const QList<int>& channels)
 
 bool Station::open()
 {
-    main = std::make_unique<MBEMain>();
-    widgets = std::make_unique<NamedWidgets>(*main);
+    build();
     return adapter.expect(Wire::opening);
-}
-
-void Station::close()
-{
-    tab.reset();
-    widgets.reset();
-    main.reset();
-}
-
-ProgramTab& Station::program()
-{
-    if (tab == nullptr) {
-        tab = std::make_unique<ProgramTab>(*main);
-    }
-    return *tab;
-}
-
-QString Station::statusBar() const
-{
-    return main->statusBar()->currentMessage();
-}
-
-QChar Station::state(const QString& name, const QString& on, const QString& off) const
-{
-    if (text(name) == on && style(name) == yellow) {
-        return u'o';
-    }
-    return text(name) == off && style(name) == olive ? u'x' : u'?';
-}
-
-QString Station::states(const char* row, const QString& on, const QString& off) const
-{
-    QString letters;
-    for (int number = 0; main->findChild<QWidget*>(cell(row, number)) != nullptr; ++number) {
-        letters += state(cell(row, number), on, off);
-    }
-    return letters;
-}
-
-bool Station::isRamping(int channel) const
-{
-    return state(cell("RunT", channel), "Stop"_s, "Run"_s) == u'o';
-}
-
-void Station::click(const QString& name) const
-{
-    QTest::mouseClick(&widget(name), Qt::LeftButton);
-}
-
-void Station::type(const QString& name, const QString& text) const
-{
-    QWidget* entry = &widget(name);
-    QTest::keyClick(entry, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(entry, Qt::Key_Delete);
-    QTest::keyClicks(entry, text);
-}
-
-void Station::pressRun(int channel, const QString& target, const QString& duration) const
-{
-    type(cell("TDeg", channel), target);
-    type(cell("DTime", channel), duration);
-    click(cell("RunT", channel));
-}
-
-void Station::togglePolling() const
-{
-    QTest::keyClick(&widget("TMPCtrlActive"_s), Qt::Key_Space);
 }
 
 bool Station::tickUntil(const std::function<bool()>& condition, int maximumTicks)

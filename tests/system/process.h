@@ -36,6 +36,7 @@ public:
     /// Ends it without asking.
     void kill();
 
+    /// The system's number of the process.
     qint64 id() const { return process.processId(); }
     bool isRunning();
     /// Waits for the program to end by itself; its exit status, or -1 when it has not ended after 20 s or

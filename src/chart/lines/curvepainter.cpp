@@ -13,7 +13,12 @@ namespace {
 Uprights uprightsOn(
     const QPaintEngine& engine, const QTransform& device, const PlotMapping& mapping, double width)
 {
-    if (engine.type() != QPaintEngine::Raster || std::abs(device.determinant()) * width * width < 0.99) {
+    // A fill that is thinner than a pixel of the device falls between two of them; rounding must not make one
+    // of exactly a pixel thinner.
+    constexpr double aPixel = 0.99;
+    const double shrunk
+        = std::min(std::hypot(device.m11(), device.m12()), std::hypot(device.m21(), device.m22()));
+    if (engine.type() != QPaintEngine::Raster || shrunk * width < aPixel) {
         return Uprights::Drawn;
     }
     // Edges of a wide line fall on the centres of device pixels. Near the device's edge rounding errors

@@ -18,6 +18,7 @@ struct StrokeMaker
 
     CurveStrokes strokes(const PointBuffer& points)
     {
+        // Of eight neighbours most rows are shared: a few large fills instead of eight.
         const int bandWidth = pen.uprights == Uprights::Filled ? 8 : 1;
         for (int i = 0; i < columns.size(); i += bandWidth) {
             addBand(i, std::min(i + bandWidth, columns.size()) - 1);

@@ -1,0 +1,58 @@
+#include "faults/attribution.h"
+
+#include "base/channels.h"
+
+#include <algorithm>
+
+void Attribution::reading(bool isRight, qint64 nowMs)
+{
+    ++count;
+    if (isInSpell) {
+        Spell& spell = all.last();
+        ++spell.readingsSince;
+        spell.rightSince = isRight ? spell.rightSince + 1 : 0;
+        spell.latestMs = isRight ? spell.latestMs : nowMs;
+        if (spell.readingsSince == Channels::count) {
+            spell.roundMs = nowMs;
+        }
+        isInSpell = spell.rightSince < Channels::count;
+    }
+    if (isRight) {
+        return;
+    }
+    ++wrong;
+    if (!isInSpell) {
+        isInSpell = true;
+        all.append({nowMs, nowMs, 0, 0, 0});
+    }
+}
+
+void Attribution::finish(qint64 nowMs)
+{
+    if (isInSpell && all.last().roundMs == 0) {
+        all.last().roundMs = nowMs;
+    }
+}
+
+double Attribution::wrongSec() const
+{
+    qint64 ms = 0;
+    for (const Spell& spell : all) {
+        ms += spell.latestMs - spell.fromMs;
+    }
+    return static_cast<double>(ms) * 1e-3;
+}
+
+int Attribution::toldSpells(const QVector<qint64>& toldMs) const
+{
+    int told = 0;
+    for (int i = 0; i < all.size(); ++i) {
+        const Spell& spell = all[i];
+        const qint64 since = i == 0 ? 0 : all[i - 1].latestMs;
+        told += std::any_of(toldMs.begin(), toldMs.end(),
+                    [&](qint64 ms) { return ms >= since && ms <= spell.roundMs; })
+            ? 1
+            : 0;
+    }
+    return told;
+}
