@@ -6,7 +6,7 @@ namespace GrowthCheck {
 
 namespace {
 
-constexpr qint64 secPerDay = 24 * 3600;
+constexpr qint64 secPerDay = qint64{24} * 3600;
 
 }
 

@@ -15,7 +15,7 @@ namespace GrowthCheck {
 
 namespace {
 
-constexpr qint64 longestLine = 1024 * 1024; // bytes; a program's row has no more
+constexpr qint64 longestLine = qint64{1024} * 1024; // bytes; a program's row has no more
 constexpr qint64 largestFile = 4 * Journal::largestFile;
 
 using Line = JournalLine;

@@ -71,7 +71,7 @@ QString LayerBlock::text() const
             texts.append(QStringLiteral("%1 %2").arg(material, nmText(thickness)));
         }
     }
-    const QString stack = texts.join(QLatin1String(" / "));
+    QString stack = texts.join(QLatin1String(" / "));
     if (passes == 1 || texts.isEmpty()) {
         return stack;
     }

@@ -24,7 +24,7 @@ QString hundredths(qint64 ms)
 
 QString setPointText(const ComparedSetPoint& setPoint)
 {
-    const QString sent = QString::number(setPoint.sentDegC, 'f', 1);
+    QString sent = QString::number(setPoint.sentDegC, 'f', 1);
     const QString planned = QString::number(setPoint.plannedDegC, 'f', 1);
     if (setPoint.sentMs < 0) {
         return Words::tr("%1 not sent").arg(planned);

@@ -58,6 +58,17 @@ struct Scale
     double most = 100.0;
     double step = 20.0;
 
+    // Where lines go across.
+    QVector<double> lines() const
+    {
+        QVector<double> all;
+        const int steps = qRound((most - least) / step);
+        for (int line = 0; line <= steps; ++line) {
+            all.append(least + line * step);
+        }
+        return all;
+    }
+
     // A little room above and below, so that no curve lies on the frame.
     double room() const { return 0.04 * (most - least); }
     double height() const { return most - least + 2.0 * room(); }
@@ -118,7 +129,7 @@ QByteArray curves(const Picture& picture, const Scale& scale)
 {
     static const char* const kinds[] = {"planned", "sent", "measured"};
     QByteArray content;
-    for (double degC = scale.least; degC <= scale.most; degC += scale.step) {
+    for (const double degC : scale.lines()) {
         const QByteArray y = number(scale.depth(degC));
         content += element("path", {}, "class=\"grid\" d=\"M0 " + y + 'H' + sec(picture.endMs) + '"');
     }
@@ -165,7 +176,7 @@ QByteArray laneNames()
 QByteArray degreeNames(const Scale& scale)
 {
     QByteArray names;
-    for (double degC = scale.least; degC <= scale.most; degC += scale.step) {
+    for (const double degC : scale.lines()) {
         names += label("top", 100.0 * scale.depth(degC) / scale.height(), QString::number(degC));
     }
     return element("div", names, "class=\"names\"");

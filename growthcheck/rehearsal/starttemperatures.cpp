@@ -11,7 +11,7 @@ namespace GrowthCheck {
 
 namespace {
 
-constexpr qint64 longestLine = 64 * 1024; // bytes
+constexpr qint64 longestLine = qint64{64} * 1024; // bytes
 
 // What the last line of the kind "minute" says of the channels; empty when there is none.
 QStringList lastMeasured(QFile& journal)

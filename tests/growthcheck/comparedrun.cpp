@@ -110,9 +110,10 @@ private slots:
     void nothingIsFoundInAnExample_data()
     {
         QTest::addColumn<QString>("fileName");
+        // The short ones.
         const QDir folder(QStringLiteral(NELVO_EXAMPLES));
-        for (const QString& name : folder.entryList({"*.dat"_s})) {
-            QTest::newRow(qPrintable(name)) << folder.filePath(name);
+        for (const char* name : {"superlattice.dat", "hold-point.dat", "doping-staircase.dat"}) {
+            QTest::newRow(name) << folder.filePath(QLatin1String(name));
         }
     }
 

@@ -117,6 +117,18 @@ private slots:
                     "120010 ms Ga 95.0"_s, "120010 ms Main Ch 10.0"_s, "150020 ms Ga 90.0"_s}));
     }
 
+    void onlySetPointsAboveZeroAreSent()
+    {
+        QCOMPARE(setPointsOf(timelineOf({"t=60 Ga=-5 Si=0 Al=12,5 In=30"_s, "t=10"_s})),
+            QStringList({"10 ms In 30.0"_s}));
+    }
+
+    void groupsThatDifferInCaseAreTwo()
+    {
+        const Timeline timeline = timelineOf({"t=1 g=A x=2"_s, "t=1 g=a x=3"_s, "t=1 g=A"_s});
+        QCOMPARE(timeline.starts, 6);
+    }
+
     void aLevelRampGoesOnWhileTheProgramPlays()
     {
         const Timeline timeline = timelineOf({"t=10 Ga=20"_s, "t=130"_s});
