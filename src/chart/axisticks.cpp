@@ -8,7 +8,7 @@ namespace AxisTicks {
 namespace {
 
 // value * 10^exponent. No negative power of ten is a double, and some C libraries miss the nearest one; the
-// positive powers are exact.
+// positive powers up to 10^22 are exact.
 double timesPowerOfTen(double value, double exponent)
 {
     const double power = std::pow(10.0, std::abs(exponent));
@@ -24,8 +24,8 @@ double decadeStep(double span, double base)
 
 Ticks ticks(double from, double to, double step)
 {
-    constexpr double mostTicks = 1000.0;
-    constexpr double tellsApart = 1e15;
+    constexpr double mostTicks = 1000.0; // more than any plot has room for
+    constexpr double tellsApart = 1e15; // from here on a double does not tell neighbours apart for sure
 
     Ticks found;
     found.step = step;

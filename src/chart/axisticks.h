@@ -13,8 +13,8 @@ struct Ticks
     qint64 last = -1;
 };
 
-/// base * 10^e with e = log10(span / base) - 0.5 truncated toward zero: about three to thirty steps in a
-/// span.
+/// base * 10^e with e = log10(span / base) - 0.5 truncated toward zero: one to three steps in a span of
+/// up to 3.16 bases, about three to thirty in any other.
 double decadeStep(double span, double base);
 
 /// The ticks of a window whose ends are `from` and `to`: the quotients by the step are truncated toward zero,

@@ -26,7 +26,7 @@ double fitScale(const QRectF& measured, const QRectF& box)
 double shownSize(
     QPainter& painter, const QRectF& box, int flags, ChCoord::FitMode mode, const QString& text, double size)
 {
-    constexpr double largestSize = 10000.0;
+    constexpr double largestSize = 10000.0; // larger fonts than any box's are only slow
 
     if (mode == ChCoord::AsIs) {
         return size;

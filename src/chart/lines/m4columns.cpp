@@ -13,10 +13,11 @@ constexpr double infinite = std::numeric_limits<double>::infinity();
 int lastOfColumn(const PointBuffer& points, const PlotMapping& mapping, int first, int end, int length)
 {
     const double x = mapping.column(points.at(first).sec);
+    constexpr int longestStep = 1 << 24; // twice of it is still an int
     int inside = first;
     int outside = end;
     int probe = std::min(first + length, end - 1);
-    for (int step = 1; outside - inside > 1; step = std::min(2 * step, 1 << 24)) {
+    for (int step = 1; outside - inside > 1; step = std::min(2 * step, longestStep)) {
         if (mapping.column(points.at(probe).sec) == x) {
             inside = probe;
             probe = inside + step;
@@ -48,14 +49,14 @@ QVector<M4Column> m4Columns(
         }
         const int stretchEnd = std::min(points.stretchEnd(next), last + 1);
         while (next < stretchEnd) {
-            const int end = eachAlone ? next : lastOfColumn(points, mapping, next, stretchEnd, length);
-            const ValueRange range = points.range(next, end);
-            columns.append({next, end, mapping.column(points.at(next).sec), mapping.row(points.at(next).degC),
-                mapping.row(points.at(end).degC), {mapping.row(range.highest), mapping.row(range.lowest)},
-                isJoined});
+            const int lastInside = eachAlone ? next : lastOfColumn(points, mapping, next, stretchEnd, length);
+            const ValueRange range = points.range(next, lastInside);
+            columns.append({next, lastInside, mapping.column(points.at(next).sec),
+                mapping.row(points.at(next).degC), mapping.row(points.at(lastInside).degC),
+                {mapping.row(range.highest), mapping.row(range.lowest)}, isJoined});
             isJoined = true;
-            length = end - next + 1;
-            next = end + 1;
+            length = lastInside - next + 1;
+            next = lastInside + 1;
         }
     }
     return columns;

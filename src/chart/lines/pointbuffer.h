@@ -52,7 +52,8 @@ public:
     /// binary search, which takes the seconds as growing; where they step back it still gives a valid index.
     int firstIndex(double sec) const;
 
-    /// The first point after `first` that is later than `sec`, or the last point when there is none.
+    /// The first point after `first` that is later than `sec`, or the last point when there is none; -1 of no
+    /// points.
     int lastIndex(int first, double sec) const;
 
     /// The extremes of the points `first` to `last`, both included, all of which are finite.
@@ -66,7 +67,7 @@ public:
     bool isFinite(int index) const;
 
 private:
-    static constexpr int blockSize = 16;
+    static constexpr int blockSize = 16; // of 230 points a column, some 14 blocks are left to look at
 
     bool followsOn(int index) const;
     void dropFirst();
