@@ -12,6 +12,8 @@ window_packages=(fonts-noto-cjk libfaketime qttranslations5-l10n)
 demo_packages=(fonts-noto-cjk xvfb xdotool openbox)
 check_packages=(clang-format clang-tidy)
 fuzz_packages=(clang libclang-rt-14-dev)
+# shellcheck disable=SC2034
+bench_packages=(libbenchmark-dev libqcustomplot-dev libqwt-qt5-dev)
 
 # need_packages NAME...: installs the Debian packages that are missing.
 need_packages() {

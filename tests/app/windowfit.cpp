@@ -1,4 +1,4 @@
-// Whether the panels' texts have room, in both languages and with the longest texts that the station shows.
+// Whether the panels' texts have room, in every language and with the longest texts that the station shows.
 
 #include "app/formtable.h"
 #include "app/language.h"
@@ -66,7 +66,8 @@ private slots:
         QFETCH(QString, language);
         QFETCH(bool, longest);
         QTranslator translator;
-        QCOMPARE(speak(chooseLanguage({QString(), language}), translator), language == japanese().argument);
+        const Language& chosen = chooseLanguage({QString(), language});
+        QCOMPARE(speak(chosen, translator), !chosen.catalogue.isEmpty());
         Station station;
         QVERIFY(station.open());
         if (longest) {
