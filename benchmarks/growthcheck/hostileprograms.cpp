@@ -1,4 +1,4 @@
-#include "hostileprograms.h"
+#include "benchmarks/growthcheck/hostileprograms.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // What growthcheck costs: no program file, however hostile, may take it a second or 64 MB, and a hundred
 // ordinary programs no second together.
 
-#include "hostileprograms.h"
-#include "support/benchapp.h"
-#include "support/figures.h"
+#include "benchmarks/growthcheck/hostileprograms.h"
+#include "benchmarks/support/benchapp.h"
+#include "benchmarks/support/figures.h"
 
 #include <QElapsedTimer>
 #include <QFile>
