@@ -14,6 +14,8 @@ namespace GrowthCheck {
 
 namespace {
 
+constexpr int longestAlike = 64; // characters; longer names take too long to normalise
+
 // Neighbouring rows of one group.
 struct Block
 {
@@ -160,8 +162,12 @@ private:
         names.insert(group);
     }
 
+    // Names with the same one look alike.
     static QString plainName(const QString& group)
     {
+        if (group.size() > longestAlike) {
+            return group;
+        }
         return group.normalized(QString::NormalizationForm_KC).toCaseFolded();
     }
 

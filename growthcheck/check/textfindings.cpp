@@ -11,11 +11,15 @@ namespace GrowthCheck {
 namespace {
 
 constexpr double highestDegC = 9999.9; // that fits the six characters of a set point
+constexpr int longestNumber = 64; // characters; longer texts take too long to normalise and are no numbers
 
 // The number that whoever wrote `text` may have meant: full-width digits, a decimal comma, a unit behind it.
 // Empty when there is none.
 QString likelyNumber(const QString& text)
 {
+    if (text.size() > longestNumber) {
+        return {};
+    }
     QString plain
         = text.normalized(QString::NormalizationForm_KC).replace(QLatin1Char(','), QLatin1Char('.'));
     while (!plain.isEmpty() && !plain.back().isDigit()) {
