@@ -180,6 +180,14 @@ journal, what it did.</source>
         <translation>--vcd、--wire、--html のプログラムは一つです</translation>
     </message>
     <message>
+        <source>--html %1: that is a program&apos;s or a journal&apos;s name</source>
+        <translation>--html %1: プログラムか記録の名前です</translation>
+    </message>
+    <message>
+        <source>--html %1: that file is read</source>
+        <translation>--html %1: 読み込むファイルです</translation>
+    </message>
+    <message>
         <source>%1 cannot be read: %2</source>
         <translation>%1 を読めません: %2</translation>
     </message>

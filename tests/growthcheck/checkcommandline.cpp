@@ -7,6 +7,8 @@
 #include "support/testmain.h"
 #include "support/testtext.h"
 
+#include <QDir>
+
 using namespace TestText;
 using GrowthCheck::Assumptions;
 using Kind = GrowthCheck::Assumptions::Start::Kind;
@@ -121,6 +123,40 @@ private slots:
         QVERIFY(!commandLineOf({"p.txt"_s}, true).options.isDropped);
         QVERIFY(!commandLineOf({"--csv"_s, "p.dat"_s}, true).options.isDropped);
         QVERIFY(!commandLineOf({"p.dat"_s, "q.dat"_s}, true).options.isDropped);
+    }
+
+    void aPageTakesThePlaceOfNoInput_data()
+    {
+        QTest::addColumn<QStringList>("words");
+        QTest::newRow("the program") << QStringList{"--html"_s, "./input.txt"_s, "input.txt"_s};
+        QTest::newRow("the rates") << QStringList{"--html"_s, "input.txt"_s, "--layers"_s,
+            "../%1/input.txt"_s.arg(QDir::current().dirName()), "clean.dat"_s};
+        QTest::newRow("the journal of the start")
+            << QStringList{"--html"_s, "input.txt"_s, "--start-from-journal=input.txt"_s, "clean.dat"_s};
+        QTest::newRow("the program compared")
+            << QStringList{"compare"_s, "--html"_s, "input.txt"_s, "input.txt"_s, "journal"_s};
+        QTest::newRow("the journal compared")
+            << QStringList{"compare"_s, "--html"_s, "input.txt"_s, "clean.dat"_s, "input.txt"_s};
+        QTest::newRow("another program") << QStringList{"--html"_s, "noted.DAT"_s, "clean.dat"_s};
+        QTest::newRow("another journal") << QStringList{"--html"_s, "2026-11.log"_s, "clean.dat"_s};
+    }
+
+    void aPageTakesThePlaceOfNoInput()
+    {
+        QFETCH(QStringList, words);
+        const QByteArray input = programText({"t=10"_s});
+        putFile("input.txt"_s, input);
+        const CheckRun run = runCheck(words);
+        QCOMPARE(run.status, 64);
+        QCOMPARE(run.complaints.count(u'\n'), 1);
+        QCOMPARE(fileText("input.txt"_s), input);
+    }
+
+    void aPageMayBeWrittenAgain()
+    {
+        putFile("page.html"_s, "before");
+        QCOMPARE(runCheck({"--html"_s, "page.html"_s, "clean.dat"_s}).status, 0);
+        QVERIFY(fileText("page.html"_s).size() > 1000);
     }
 
     void helpNamesEveryOptionAndStatus()
