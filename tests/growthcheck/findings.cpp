@@ -123,8 +123,9 @@ const QVector<Case>& cases()
         {"a closed hold", {"t=-1"_s, "t=10"_s}, {}},
         {"a step without end", {"t=1e300"_s}, {"endless-step step 1"_s}},
         {"a group without end", {"t=1e9 g=A x=2147483647"_s}, {"endless-step step 1"_s}},
-        {"too many set points", {"t=1e9 Ga=20 Si=20"_s},
-            {"check-stops step 1"_s, "level-ramp step 1 Ga"_s, "level-ramp step 1 Si"_s}},
+        {"too many set points", {"t=60 Ga=20"_s, "t=1e9 Ga=20 Si=20"_s},
+            {"check-stops step 2"_s, "level-ramp step 1 Ga"_s}},
+        {"a ramp without end", {"t=1e300 In=40"_s}, {"endless-step step 1"_s}},
         // Ramps.
         {"a rise too fast", {"t=60 Ga=71"_s, "t=10"_s}, {"ramp-refused step 1 Ga"_s}},
         {"a rise just slow enough", {"t=60 Ga=70"_s, "t=10"_s}, {}},
