@@ -5,7 +5,6 @@
 #include "growthcheck/layers/elements.h"
 #include "program/player.h"
 #include "program/steprows.h"
-#include "temperature/polling.h"
 
 #include <QSet>
 #include <QStringList>
@@ -26,8 +25,9 @@ struct Block
 class RowCheck
 {
 public:
-    explicit RowCheck(const QVector<ProgramStep>& steps)
+    RowCheck(const QVector<ProgramStep>& steps, qint64 pollingRoundMs)
         : rows(steps)
+        , roundMs(pollingRoundMs)
         , used(steps.size())
     {
         while (used > 0 && rows.step(used - 1) == ProgramStep()) {
@@ -67,12 +67,13 @@ private:
         const StepPlan plan = planOf(rows.step(row));
         if (plan.kind == StepPlan::Kind::Hold) {
             checkHold(row, plan);
-        } else if (1000.0 * plan.timeSec < Polling::leastRoundMs) {
+        } else if (1000.0 * plan.timeSec < static_cast<double>(roundMs)) {
             tell(Kinds::shortStep, row,
                 Words::tr(
                     "The step takes %1 s, less than a polling round (%2 s): its shutters may wait for a "
                     "controller's reply until the next step overtakes them.")
-                    .arg(QString::number(plan.timeSec), QString::number(Polling::leastRoundMs / 1000.0)));
+                    .arg(QString::number(plan.timeSec),
+                        QString::number(static_cast<double>(roundMs) / 1000.0)));
         }
     }
 
@@ -203,6 +204,7 @@ private:
     }
 
     StepRows rows;
+    const qint64 roundMs; // of the polling
     int used; // rows up to the last one that says something
     int end = 0; // the row whose time of 0 ends the program; that behind the table where there is none
     QSet<QString> names;
@@ -211,9 +213,9 @@ private:
 
 } // namespace
 
-Findings checkRows(const QVector<ProgramStep>& steps)
+Findings checkRows(const QVector<ProgramStep>& steps, qint64 roundMs)
 {
-    return RowCheck(steps).check();
+    return RowCheck(steps, roundMs).check();
 }
 
 } // namespace GrowthCheck

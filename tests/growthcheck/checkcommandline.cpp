@@ -114,6 +114,16 @@ private slots:
         QCOMPARE(runCheck({"--start-from-journal"_s, "journal.log"_s, "clean.dat"_s}).status, 2);
     }
 
+    // A round takes 0.36 s; with replies of 20 ms each channel waits two more ticks of 10 ms.
+    void slowRepliesMakeStepsShort()
+    {
+        putFile("quick.dat"_s, programText({"t=0.5"_s, "t=0.54"_s}));
+        QVERIFY(!runCheck({"quick.dat"_s}).out.contains("short-step"));
+        const QStringList found = runCheck({"--reply"_s, "20"_s, "quick.dat"_s}).lines();
+        QCOMPARE(found.filter("short-step"_s).size(), 1);
+        QVERIFY(!found.filter("round (0.54 s)"_s).isEmpty());
+    }
+
     void aDroppedProgramGetsItsPage()
     {
         const GrowthCheck::Options dropped = commandLineOf({"a folder/My.Program.DAT"_s}, true).options;
