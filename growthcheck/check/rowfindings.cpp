@@ -92,6 +92,23 @@ private:
                 Words::tr("The program waits here for the operator with open shutters: %1.")
                     .arg(open.join(QLatin1Char(' '))));
         }
+        QStringList left;
+        for (const StepRamp& ramp : planAsStep(row).ramps) {
+            left.append(channelName(ramp.channel));
+        }
+        if (!left.isEmpty()) {
+            tell(Kinds::holdSetPoints, row,
+                Words::tr("A hold sets no set points; the station leaves out those of: %1.")
+                    .arg(left.join(QLatin1String(", "))));
+        }
+    }
+
+    // What the row would set if it had a time.
+    StepPlan planAsStep(int row) const
+    {
+        ProgramStep timed = rows.step(row);
+        timed.timeSec = 1.0;
+        return planOf(timed);
     }
 
     void checkBlock(const Block& block)
@@ -177,9 +194,7 @@ private:
         if (end >= used) {
             return;
         }
-        ProgramStep played = rows.step(end);
-        played.timeSec = 1.0;
-        const StepPlan plan = planOf(played);
+        const StepPlan plan = planAsStep(end);
         if (!plan.ramps.isEmpty() || plan.shutters.contains(true)) {
             tell(Kinds::endRow, end,
                 Words::tr("The time is 0, so the program ends before this step: its shutters and set points "

@@ -280,6 +280,10 @@ journal, what it did.</source>
         <translation>シャッターを開けたまま操作者を待ちます: %1。</translation>
     </message>
     <message>
+        <source>A hold sets no set points; the station leaves out those of: %1.</source>
+        <translation>操作者を待つ行の設定値は送られません: %1。</translation>
+    </message>
+    <message>
         <source>The program ends in step %1, within the group: it is played once, not %2 times.</source>
         <translation>プログラムはグループの中のステップ %1 で終わります。%2 回でなく 1 回だけ実行されます。</translation>
     </message>

@@ -120,6 +120,7 @@ const QVector<Case>& cases()
         {"a short step", {"t=0.35"_s, "t=0.36"_s}, {"short-step step 1"_s}},
         {"a hold that grows", {"t=-1 open=Ga,As4"_s, "t=10"_s}, {"hold-open step 1"_s}},
         {"a hold under arsenic", {"t=-1 open=As4"_s, "t=10"_s}, {"hold-arsenic step 1"_s}},
+        {"a hold with set points", {"t=-1 Ga=30 Si=0 In=40"_s, "t=10"_s}, {"hold-set-points step 1"_s}},
         {"a closed hold", {"t=-1"_s, "t=10"_s}, {}},
         {"a step without end", {"t=1e300"_s}, {"endless-step step 1"_s}},
         {"a group without end", {"t=1e9 g=A x=2147483647"_s}, {"endless-step step 1"_s}},
