@@ -31,9 +31,10 @@ QString likelyNumber(const QString& text)
 class TextCheck
 {
 public:
-    TextCheck(const ProgramFile::Line& checkedLine, int stepNumber, Findings& target)
+    TextCheck(const ProgramFile::Line& checkedLine, int stepNumber, bool isBehindEnd, Findings& target)
         : line(checkedLine)
         , step(stepNumber)
+        , isNotReached(isBehindEnd)
         , findings(target)
     {
     }
@@ -111,7 +112,9 @@ public:
         const std::optional<double> timeSec = readNumber(text);
         if (!timeSec) {
             tell(Kinds::timeText,
-                Words::tr("The time %1 is not a number and counts as 0: the program ends here.%2")
+                (isNotReached
+                        ? Words::tr("The time %1 is not a number and counts as 0.%2")
+                        : Words::tr("The time %1 is not a number and counts as 0: the program ends here.%2"))
                     .arg(quoted(text), advice(text)));
         } else if (*timeSec != line.step.timeSec) {
             tell(Kinds::timeRounded,
@@ -144,6 +147,9 @@ private:
     {
         Finding finding;
         finding.kind = kind;
+        if (isNotReached) {
+            finding.kind.severity = Severity::Note;
+        }
         finding.text = text;
         finding.line = line.number;
         finding.step = step;
@@ -153,14 +159,15 @@ private:
 
     const ProgramFile::Line& line;
     int step;
+    bool isNotReached;
     Findings& findings;
 };
 
 } // namespace
 
-void checkTexts(const ProgramFile::Line& line, int step, Findings& findings)
+void checkTexts(const ProgramFile::Line& line, int step, bool isBehindEnd, Findings& findings)
 {
-    TextCheck check(line, step, findings);
+    TextCheck check(line, step, isBehindEnd, findings);
     check.checkLine();
     check.checkNumber();
     for (int channel = 0; channel < Channels::count; ++channel) {

@@ -356,6 +356,10 @@ journal, what it did.</source>
         <translation>シャッターの %1 は 0 でも 1 でもなく、閉とみなされます。</translation>
     </message>
     <message>
+        <source>The time %1 is not a number and counts as 0.%2</source>
+        <translation>時間 %1 は数値でなく、0 とみなされます。%2</translation>
+    </message>
+    <message>
         <source>The time %1 is not a number and counts as 0: the program ends here.%2</source>
         <translation>時間 %1 は数値でなく、0 とみなされます。プログラムはここで終わります。%2</translation>
     </message>

@@ -124,6 +124,16 @@ private slots:
         QVERIFY(!found.filter("round (0.54 s)"_s).isEmpty());
     }
 
+    void textsBehindTheEndAreNotes()
+    {
+        putFile("ended.dat"_s, programText({"t=10"_s, "t=1,5"_s, "t=2,5 Ga=hot"_s}));
+        const QStringList found = runCheck({"ended.dat"_s}).lines();
+        QCOMPARE(found.filter("time-text"_s),
+            QStringList({"  error time-text  step 2"_s, "  note time-text  step 3"_s}));
+        QCOMPARE(found.filter("set-point-text"_s), QStringList("  note set-point-text  step 3, Ga"_s));
+        QCOMPARE(found.join(u' ').count("program ends here"_s), 1);
+    }
+
     void aDroppedProgramGetsItsPage()
     {
         const GrowthCheck::Options dropped = commandLineOf({"a folder/My.Program.DAT"_s}, true).options;
