@@ -129,10 +129,12 @@ public:
         bool isNumber = false;
         text.toInt(&isNumber);
         if (!isNumber) {
+            bool isAdviceNumber = false;
+            likelyNumber(text).toInt(&isAdviceNumber);
             tell(Kinds::timesText,
                 Words::tr("The repeat count %1 is not a whole number and counts as 0: a group that begins "
                           "here is played once.%2")
-                    .arg(quoted(text), advice(text)));
+                    .arg(quoted(text), isAdviceNumber ? advice(text) : QString()));
         }
     }
 
@@ -140,7 +142,8 @@ private:
     static QString advice(const QString& text)
     {
         const QString likely = likelyNumber(text);
-        return likely.isEmpty() ? QString() : Words::tr(" Is it %1?").arg(shortened(likely));
+        return likely.isEmpty() || likely == text ? QString()
+                                                  : Words::tr(" Is it %1?").arg(shortened(likely));
     }
 
     void tell(const Kind& kind, const QString& text, int channel = -1)

@@ -134,6 +134,15 @@ private slots:
         QCOMPARE(found.join(u' ').count("program ends here"_s), 1);
     }
 
+    void onlyWhatTheStationTakesIsAdvised()
+    {
+        putFile("texts.dat"_s, programText({"t=10 x=2.5 g=A"_s, "t=10 x=2,5 g=B"_s, "t=10 x=３回 g=C"_s}));
+        const QString found = runCheck({"texts.dat"_s}).lines().join(u' ').simplified();
+        QCOMPARE(found.count("times-text"_s), 3);
+        QCOMPARE(found.count("Is it "_s), 1);
+        QVERIFY(found.contains("Is it 3?"_s));
+    }
+
     void aDroppedProgramGetsItsPage()
     {
         const GrowthCheck::Options dropped = commandLineOf({"a folder/My.Program.DAT"_s}, true).options;
