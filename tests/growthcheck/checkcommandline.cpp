@@ -143,6 +143,15 @@ private slots:
         QVERIFY(found.contains("Is it 3?"_s));
     }
 
+    void aTerminalObeysNoName()
+    {
+        putFile("names.dat"_s, programText({"t=10 x=\u001b[2J g=\u001b]0;\u0007\u202eA"_s}));
+        const QString shown = QString::fromUtf8(runCheck({"names.dat"_s}).out);
+        QVERIFY(shown.contains("\"\uFFFD]0;\uFFFD\uFFFDA\""_s));
+        QVERIFY(shown.contains("\"\uFFFD[2J\""_s));
+        QVERIFY(!shown.contains(QChar(0x1B)));
+    }
+
     void aDroppedProgramGetsItsPage()
     {
         const GrowthCheck::Options dropped = commandLineOf({"a folder/My.Program.DAT"_s}, true).options;
