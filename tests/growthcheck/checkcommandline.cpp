@@ -152,6 +152,13 @@ private slots:
         QVERIFY(!shown.contains(QChar(0x1B)));
     }
 
+    void aRefusalFromNowhereIsInDoubt()
+    {
+        putFile("fast.dat"_s, programText({"t=60 Ga=800"_s, "t=1"_s}));
+        QVERIFY(runCheck({"fast.dat"_s}).out.contains(": refused?\n"));
+        QVERIFY(runCheck({"--start-all"_s, "20"_s, "fast.dat"_s}).out.contains(": refused\n"));
+    }
+
     void aDroppedProgramGetsItsPage()
     {
         const GrowthCheck::Options dropped = commandLineOf({"a folder/My.Program.DAT"_s}, true).options;
