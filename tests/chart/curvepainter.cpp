@@ -92,12 +92,12 @@ QVector<bool> ink(const QTransform& transform, const Paint& paint)
     painter.setTransform(transform);
     painter.setClipRect(QRect(QPoint(59, 39), QPoint(460, 260)));
     paint(painter);
-    QVector<bool> found;
-    found.reserve(image.width() * image.height());
+    QVector<bool> found(image.width() * image.height());
+    bool* isInk = found.data();
     for (int y = 0; y < image.height(); ++y) {
         const QRgb* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
         for (int x = 0; x < image.width(); ++x) {
-            found.append(row[x] != qRgb(255, 255, 255));
+            *isInk++ = row[x] != qRgb(255, 255, 255);
         }
     }
     return found;
@@ -105,9 +105,11 @@ QVector<bool> ink(const QTransform& transform, const Paint& paint)
 
 int differences(const QVector<bool>& a, const QVector<bool>& b)
 {
+    const bool* first = a.constData();
+    const bool* second = b.constData();
     int count = 0;
     for (int i = 0; i < a.size(); ++i) {
-        count += a.at(i) != b.at(i) ? 1 : 0;
+        count += first[i] != second[i] ? 1 : 0;
     }
     return count;
 }
@@ -220,9 +222,13 @@ void CurvePainterTest::farEndsKeepTheSlope()
         for (const double scale : {1.0, 1.25, 2.0}) {
             const QVector<bool> found = ink(QTransform::fromScale(scale, scale), curve(points, map, width));
             QVERIFY(found.count(true) > 200);
+            const bool* isInk = found.constData();
             for (int i = 0; i < found.size(); ++i) {
+                if (!isInk[i]) {
+                    continue;
+                }
                 const double fromMiddle = (i % 1000 / scale - 260.0) + (i / 1000 / scale - 150.0);
-                QVERIFY(!found.at(i) || std::abs(fromMiddle) < 1.5 * width + 2.0);
+                QVERIFY(std::abs(fromMiddle) < 1.5 * width + 2.0);
             }
         }
     }
