@@ -7,6 +7,8 @@
 #include <QFileInfo>
 #include <QLocale>
 
+#include <algorithm>
+
 namespace GrowthCheck {
 
 namespace {
@@ -233,6 +235,23 @@ QString readFiles(const QStringList& arguments, Options& options)
                                                    : QString();
 }
 
+// A page must not take the place of what it tells of.
+QString checkPage(const Options& options)
+{
+    const QFileInfo page(options.page);
+    const QString suffix = page.suffix().toLower();
+    if (suffix == QLatin1String("dat") || suffix == QLatin1String("log")) {
+        return Words::tr("--html %1: that is a program's or a journal's name").arg(quoted(options.page));
+    }
+    const QStringList inputs
+        = options.programs + QStringList{options.journal, options.startJournal, options.rates};
+    const bool isInput
+        = page.exists() && std::any_of(inputs.begin(), inputs.end(), [&page](const QString& input) {
+              return !input.isEmpty() && QFileInfo(input).canonicalFilePath() == page.canonicalFilePath();
+          });
+    return isInput ? Words::tr("--html %1: that file is read").arg(quoted(options.page)) : QString();
+}
+
 } // namespace
 
 CommandLine readCommandLine(const QStringList& arguments, bool isFromDesktop)
@@ -260,6 +279,9 @@ CommandLine readCommandLine(const QStringList& arguments, bool isFromDesktop)
         }
     }
     result.error = readFiles(parser.positionalArguments(), options);
+    if (result.error.isEmpty() && !options.page.isEmpty()) {
+        result.error = checkPage(options);
+    }
     options.isDropped = isFromDesktop && arguments.size() == 2 && options.programs.size() == 1
         && options.programs.first().endsWith(QLatin1String(".dat"), Qt::CaseInsensitive);
     if (options.isDropped) {

@@ -16,8 +16,8 @@ CheckedProgram checkProgram(
     checked.program = program;
     checked.assumptions = assumptions;
     checked.timeline = rehearse(program.steps, assumptions);
-    checked.findings
-        = program.findings + checkRows(program.steps) + checkTimeline(checked.timeline, assumptions);
+    checked.findings = program.findings + checkRows(program.steps, assumptions.roundMs())
+        + checkTimeline(checked.timeline, assumptions);
     if (rates) {
         checked.layers = layersOf(checked.timeline, *rates);
         checked.findings += checkRates(checked.timeline, *rates);

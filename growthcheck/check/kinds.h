@@ -39,6 +39,7 @@ inline constexpr Kind lastRow{"last-row", Severity::Warning};
 inline constexpr Kind shortStep{"short-step", Severity::Warning};
 inline constexpr Kind holdOpen{"hold-open", Severity::Warning};
 inline constexpr Kind holdArsenic{"hold-arsenic", Severity::Note};
+inline constexpr Kind holdSetPoints{"hold-set-points", Severity::Warning};
 inline constexpr Kind endlessStep{"endless-step", Severity::Error};
 inline constexpr Kind checkStops{"check-stops", Severity::Error};
 

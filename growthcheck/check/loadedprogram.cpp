@@ -76,7 +76,8 @@ private:
         lastRuns = nullptr;
         program.steps.append(line.step);
         program.lines.append(line.number);
-        checkTexts(line, program.steps.size(), program.findings);
+        checkTexts(line, program.steps.size(), hasEnded, program.findings);
+        hasEnded = hasEnded || line.step.timeSec == 0.0;
     }
 
     void add(LineRuns& runs, const Line& line)
@@ -102,6 +103,7 @@ private:
     }
 
     LoadedProgram& program;
+    bool hasEnded = false; // a time of 0 came, behind which no step is played
     LineRuns skipped;
     LineRuns remarks;
     LineRuns tooLong;

@@ -140,7 +140,9 @@ bool looksEqual(double one, double other)
 void checkRamps(const Timeline& timeline, Findings& findings)
 {
     RampCheck check(timeline, findings);
-    for (int index = 0; index < timeline.steps.size(); ++index) {
+    // What becomes of the ramps of a step that was not looked at to its end, nobody can say.
+    const int cut = timeline.stop == Timeline::Stop::AtEnd ? 0 : 1;
+    for (int index = 0; index < timeline.steps.size() - cut; ++index) {
         const PlannedStep& step = timeline.steps[index];
         for (const PlannedRamp& ramp : step.ramps) {
             check.check(step, ramp, timeline.timesAlike(index));

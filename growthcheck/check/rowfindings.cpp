@@ -5,7 +5,6 @@
 #include "growthcheck/layers/elements.h"
 #include "program/player.h"
 #include "program/steprows.h"
-#include "temperature/polling.h"
 
 #include <QSet>
 #include <QStringList>
@@ -13,6 +12,8 @@
 namespace GrowthCheck {
 
 namespace {
+
+constexpr int longestAlike = 64; // characters; longer names take too long to normalise
 
 // Neighbouring rows of one group.
 struct Block
@@ -24,8 +25,9 @@ struct Block
 class RowCheck
 {
 public:
-    explicit RowCheck(const QVector<ProgramStep>& steps)
+    RowCheck(const QVector<ProgramStep>& steps, qint64 pollingRoundMs)
         : rows(steps)
+        , roundMs(pollingRoundMs)
         , used(steps.size())
     {
         while (used > 0 && rows.step(used - 1) == ProgramStep()) {
@@ -65,12 +67,13 @@ private:
         const StepPlan plan = planOf(rows.step(row));
         if (plan.kind == StepPlan::Kind::Hold) {
             checkHold(row, plan);
-        } else if (1000.0 * plan.timeSec < Polling::leastRoundMs) {
+        } else if (1000.0 * plan.timeSec < static_cast<double>(roundMs)) {
             tell(Kinds::shortStep, row,
                 Words::tr(
                     "The step takes %1 s, less than a polling round (%2 s): its shutters may wait for a "
                     "controller's reply until the next step overtakes them.")
-                    .arg(QString::number(plan.timeSec), QString::number(Polling::leastRoundMs / 1000.0)));
+                    .arg(QString::number(plan.timeSec),
+                        QString::number(static_cast<double>(roundMs) / 1000.0)));
         }
     }
 
@@ -89,6 +92,23 @@ private:
                 Words::tr("The program waits here for the operator with open shutters: %1.")
                     .arg(open.join(QLatin1Char(' '))));
         }
+        QStringList left;
+        for (const StepRamp& ramp : planAsStep(row).ramps) {
+            left.append(channelName(ramp.channel));
+        }
+        if (!left.isEmpty()) {
+            tell(Kinds::holdSetPoints, row,
+                Words::tr("A hold sets no set points; the station leaves out those of: %1.")
+                    .arg(left.join(QLatin1String(", "))));
+        }
+    }
+
+    // What the row would set if it had a time.
+    StepPlan planAsStep(int row) const
+    {
+        ProgramStep timed = rows.step(row);
+        timed.timeSec = 1.0;
+        return planOf(timed);
     }
 
     void checkBlock(const Block& block)
@@ -160,8 +180,12 @@ private:
         names.insert(group);
     }
 
+    // Names with the same one look alike.
     static QString plainName(const QString& group)
     {
+        if (group.size() > longestAlike) {
+            return group;
+        }
         return group.normalized(QString::NormalizationForm_KC).toCaseFolded();
     }
 
@@ -170,9 +194,7 @@ private:
         if (end >= used) {
             return;
         }
-        ProgramStep played = rows.step(end);
-        played.timeSec = 1.0;
-        const StepPlan plan = planOf(played);
+        const StepPlan plan = planAsStep(end);
         if (!plan.ramps.isEmpty() || plan.shutters.contains(true)) {
             tell(Kinds::endRow, end,
                 Words::tr("The time is 0, so the program ends before this step: its shutters and set points "
@@ -197,6 +219,7 @@ private:
     }
 
     StepRows rows;
+    const qint64 roundMs; // of the polling
     int used; // rows up to the last one that says something
     int end = 0; // the row whose time of 0 ends the program; that behind the table where there is none
     QSet<QString> names;
@@ -205,9 +228,9 @@ private:
 
 } // namespace
 
-Findings checkRows(const QVector<ProgramStep>& steps)
+Findings checkRows(const QVector<ProgramStep>& steps, qint64 roundMs)
 {
-    return RowCheck(steps).check();
+    return RowCheck(steps, roundMs).check();
 }
 
 } // namespace GrowthCheck

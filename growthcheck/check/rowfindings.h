@@ -8,7 +8,7 @@
 namespace GrowthCheck {
 
 /// What is to be said of the table's rows as they stand: groups and repeats, rows that are never reached,
-/// holds and short steps.
-Findings checkRows(const QVector<ProgramStep>& steps);
+/// holds, and steps shorter than a polling round of `roundMs`.
+Findings checkRows(const QVector<ProgramStep>& steps, qint64 roundMs);
 
 } // namespace GrowthCheck

@@ -11,11 +11,15 @@ namespace GrowthCheck {
 namespace {
 
 constexpr double highestDegC = 9999.9; // that fits the six characters of a set point
+constexpr int longestNumber = 64; // characters; longer texts take too long to normalise and are no numbers
 
 // The number that whoever wrote `text` may have meant: full-width digits, a decimal comma, a unit behind it.
 // Empty when there is none.
 QString likelyNumber(const QString& text)
 {
+    if (text.size() > longestNumber) {
+        return {};
+    }
     QString plain
         = text.normalized(QString::NormalizationForm_KC).replace(QLatin1Char(','), QLatin1Char('.'));
     while (!plain.isEmpty() && !plain.back().isDigit()) {
@@ -27,9 +31,10 @@ QString likelyNumber(const QString& text)
 class TextCheck
 {
 public:
-    TextCheck(const ProgramFile::Line& checkedLine, int stepNumber, Findings& target)
+    TextCheck(const ProgramFile::Line& checkedLine, int stepNumber, bool isBehindEnd, Findings& target)
         : line(checkedLine)
         , step(stepNumber)
+        , isNotReached(isBehindEnd)
         , findings(target)
     {
     }
@@ -107,7 +112,9 @@ public:
         const std::optional<double> timeSec = readNumber(text);
         if (!timeSec) {
             tell(Kinds::timeText,
-                Words::tr("The time %1 is not a number and counts as 0: the program ends here.%2")
+                (isNotReached
+                        ? Words::tr("The time %1 is not a number and counts as 0.%2")
+                        : Words::tr("The time %1 is not a number and counts as 0: the program ends here.%2"))
                     .arg(quoted(text), advice(text)));
         } else if (*timeSec != line.step.timeSec) {
             tell(Kinds::timeRounded,
@@ -122,10 +129,12 @@ public:
         bool isNumber = false;
         text.toInt(&isNumber);
         if (!isNumber) {
+            bool isAdviceNumber = false;
+            likelyNumber(text).toInt(&isAdviceNumber);
             tell(Kinds::timesText,
                 Words::tr("The repeat count %1 is not a whole number and counts as 0: a group that begins "
                           "here is played once.%2")
-                    .arg(quoted(text), advice(text)));
+                    .arg(quoted(text), isAdviceNumber ? advice(text) : QString()));
         }
     }
 
@@ -133,13 +142,17 @@ private:
     static QString advice(const QString& text)
     {
         const QString likely = likelyNumber(text);
-        return likely.isEmpty() ? QString() : Words::tr(" Is it %1?").arg(shortened(likely));
+        return likely.isEmpty() || likely == text ? QString()
+                                                  : Words::tr(" Is it %1?").arg(shortened(likely));
     }
 
     void tell(const Kind& kind, const QString& text, int channel = -1)
     {
         Finding finding;
         finding.kind = kind;
+        if (isNotReached) {
+            finding.kind.severity = Severity::Note;
+        }
         finding.text = text;
         finding.line = line.number;
         finding.step = step;
@@ -149,14 +162,15 @@ private:
 
     const ProgramFile::Line& line;
     int step;
+    bool isNotReached;
     Findings& findings;
 };
 
 } // namespace
 
-void checkTexts(const ProgramFile::Line& line, int step, Findings& findings)
+void checkTexts(const ProgramFile::Line& line, int step, bool isBehindEnd, Findings& findings)
 {
-    TextCheck check(line, step, findings);
+    TextCheck check(line, step, isBehindEnd, findings);
     check.checkLine();
     check.checkNumber();
     for (int channel = 0; channel < Channels::count; ++channel) {

@@ -13,7 +13,8 @@ class Words
 /// A channel's name in that language.
 QString channelName(int channel);
 
-/// A text that somebody else wrote, in quotation marks, cut to what a sentence bears.
+/// A text that somebody else wrote, in quotation marks, cut to what a sentence bears; U+FFFD for each control
+/// character.
 QString quoted(const QString& text);
 
 /// The same without the marks.

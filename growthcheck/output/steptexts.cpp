@@ -69,8 +69,11 @@ QString rampText(const PlannedRamp& ramp, const QVector<PlannedSetPoint>& setPoi
     const QString from
         = ramp.from == PlannedRamp::From::NotTold ? Words::tr("%1 (not told)").arg(start) : start;
     const QString to = QString::number(ramp.plan.targetDegC, 'g', 6);
-    const QString sent = ramp.end == PlannedRamp::End::Refused ? Words::tr("refused")
-                                                               : setPointsText(setPoints, ramp.channel);
+    // From a start that nobody told it may be taken as well.
+    const QString refused
+        = Words::tr("refused") + QLatin1String(ramp.from == PlannedRamp::From::NotTold ? "?" : "");
+    const QString sent
+        = ramp.end == PlannedRamp::End::Refused ? refused : setPointsText(setPoints, ramp.channel);
     return Words::tr("%1 %2 to %3 deg C in %4 min: %5")
         .arg(channelName(ramp.channel), from, to, ramp.minutes, sent);
 }

@@ -108,13 +108,14 @@ void writeVcd(const CheckedProgram& checked, const Sink& sink)
         }
         return true;
     });
-    if (!isWhole) {
-        sink("$comment more steps follow that are not listed $end\n");
-        return;
+    if (isWhole && checked.timeline.stop == Timeline::Stop::AtEnd) {
+        dump.end(checked.timeline.endMs);
+        for (const PlannedSetPoint& setPoint : checked.timeline.tail) {
+            dump.set(setPoint);
+        }
     }
-    dump.end(checked.timeline.endMs);
-    for (const PlannedSetPoint& setPoint : checked.timeline.tail) {
-        dump.set(setPoint);
+    if (!isWhole || checked.timeline.isCut()) {
+        sink("$comment more changes follow that are not listed $end\n");
     }
 }
 

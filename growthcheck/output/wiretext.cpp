@@ -29,7 +29,7 @@ void writeWire(const CheckedProgram& checked, const Sink& sink)
         sink(line + message.bytes.toHex(' ').toUpper() + '\n');
         return true;
     });
-    if (!isWhole || checked.timeline.stop != Timeline::Stop::AtEnd) {
+    if (!isWhole || checked.timeline.isCut()) {
         sink("# more messages follow that are not listed\n");
     }
     for (int channel = 0; channel < checked.timeline.endlessAtEnd.size(); ++channel) {

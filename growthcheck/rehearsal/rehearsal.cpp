@@ -31,7 +31,9 @@ public:
         player.start(rows, 0);
         for (nowMs = Player::tickMs; playTick() && goOn(); nowMs = nextTickMs()) { }
         timeline.endMs = nowMs;
-        cells.finish(mostInTail);
+        if (timeline.stop == Timeline::Stop::AtEnd) {
+            cells.finish(mostInTail);
+        }
         return timeline;
     }
 

@@ -135,7 +135,6 @@ PlannedSetPoint RehearsedCells::send(int channel, qint64 untilMs, bool isReplace
 
 void RehearsedCells::finish(int limit)
 {
-    timeline.endlessAtEnd.fill(false, Channels::count);
     for (int channel = 0; channel < Channels::count; ++channel) {
         Cell& cell = cells.at(static_cast<size_t>(channel));
         if (cell.ramp.cellRunning && cell.ramp.rampRate == 0.0) {
@@ -150,7 +149,9 @@ void RehearsedCells::finish(int limit)
         for (int sent = 0; cell.ramp.cellRunning && sent < limit; ++sent) {
             timeline.tail.append(send(channel, ever, false));
         }
-        timeline.endlessAtEnd[channel] = cell.ramp.cellRunning;
+        const bool standsStill = cell.ramp.rampSetPoint + cell.ramp.rampRate == cell.ramp.rampSetPoint;
+        timeline.endlessAtEnd[channel] = cell.ramp.cellRunning && standsStill;
+        timeline.isTailCut = timeline.isTailCut || (cell.ramp.cellRunning && !standsStill);
         planned(cell) = atEnd;
     }
     std::stable_sort(timeline.tail.begin(), timeline.tail.end(),

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/channels.h"
 #include "program/player.h"
 #include "temperature/ramp.h"
 
@@ -94,10 +95,14 @@ struct Timeline
     qint64 endMs = 0;
     qint64 holds = 0;
     qint64 starts = 0; ///< of steps, folded ones counted
-    QVector<PlannedSetPoint> tail; ///< sent after the end by the ramps that still run
-    QVector<bool> endlessAtEnd; ///< channels whose ramp has no rate and goes on for ever
+    QVector<PlannedSetPoint> tail; ///< sent after the end by the ramps that still run; empty after a stop
+    bool isTailCut = false; ///< more of them follow than are looked at
+    /// By channel: whether its ramp stands still and goes on for ever. No one's does after a stop.
+    QVector<bool> endlessAtEnd = QVector<bool>(Channels::count, false);
     double shownTotalSec = 0.0; ///< what the station shows
 
+    /// Whether something is missing at its end.
+    bool isCut() const { return stop != Stop::AtEnd || isTailCut; }
     /// How often the operator was waited for until a fold's first pass.
     qint64 holdsBefore(const Fold& fold) const { return steps[fold.firstStep].holdsBefore + fold.holds; }
     /// How often the step at `index` is played alike: once, and in the passes that are folded onto it.

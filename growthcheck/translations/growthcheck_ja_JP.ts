@@ -180,6 +180,14 @@ journal, what it did.</source>
         <translation>--vcd、--wire、--html のプログラムは一つです</translation>
     </message>
     <message>
+        <source>--html %1: that is a program&apos;s or a journal&apos;s name</source>
+        <translation>--html %1: プログラムか記録の名前です</translation>
+    </message>
+    <message>
+        <source>--html %1: that file is read</source>
+        <translation>--html %1: 読み込むファイルです</translation>
+    </message>
+    <message>
         <source>%1 cannot be read: %2</source>
         <translation>%1 を読めません: %2</translation>
     </message>
@@ -272,6 +280,10 @@ journal, what it did.</source>
         <translation>シャッターを開けたまま操作者を待ちます: %1。</translation>
     </message>
     <message>
+        <source>A hold sets no set points; the station leaves out those of: %1.</source>
+        <translation>操作者を待つ行の設定値は送られません: %1。</translation>
+    </message>
+    <message>
         <source>The program ends in step %1, within the group: it is played once, not %2 times.</source>
         <translation>プログラムはグループの中のステップ %1 で終わります。%2 回でなく 1 回だけ実行されます。</translation>
     </message>
@@ -342,6 +354,10 @@ journal, what it did.</source>
     <message>
         <source>The shutter&apos;s %1 is neither 0 nor 1, and counts as closed.</source>
         <translation>シャッターの %1 は 0 でも 1 でもなく、閉とみなされます。</translation>
+    </message>
+    <message>
+        <source>The time %1 is not a number and counts as 0.%2</source>
+        <translation>時間 %1 は数値でなく、0 とみなされます。%2</translation>
     </message>
     <message>
         <source>The time %1 is not a number and counts as 0: the program ends here.%2</source>

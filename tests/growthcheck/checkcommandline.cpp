@@ -7,6 +7,8 @@
 #include "support/testmain.h"
 #include "support/testtext.h"
 
+#include <QDir>
+
 using namespace TestText;
 using GrowthCheck::Assumptions;
 using Kind = GrowthCheck::Assumptions::Start::Kind;
@@ -112,6 +114,51 @@ private slots:
         QCOMPARE(runCheck({"--start-from-journal"_s, "journal.log"_s, "clean.dat"_s}).status, 2);
     }
 
+    // A round takes 0.36 s; with replies of 20 ms each channel waits two more ticks of 10 ms.
+    void slowRepliesMakeStepsShort()
+    {
+        putFile("quick.dat"_s, programText({"t=0.5"_s, "t=0.54"_s}));
+        QVERIFY(!runCheck({"quick.dat"_s}).out.contains("short-step"));
+        const QStringList found = runCheck({"--reply"_s, "20"_s, "quick.dat"_s}).lines();
+        QCOMPARE(found.filter("short-step"_s).size(), 1);
+        QVERIFY(!found.filter("round (0.54 s)"_s).isEmpty());
+    }
+
+    void textsBehindTheEndAreNotes()
+    {
+        putFile("ended.dat"_s, programText({"t=10"_s, "t=1,5"_s, "t=2,5 Ga=hot"_s}));
+        const QStringList found = runCheck({"ended.dat"_s}).lines();
+        QCOMPARE(found.filter("time-text"_s),
+            QStringList({"  error time-text  step 2"_s, "  note time-text  step 3"_s}));
+        QCOMPARE(found.filter("set-point-text"_s), QStringList("  note set-point-text  step 3, Ga"_s));
+        QCOMPARE(found.join(u' ').count("program ends here"_s), 1);
+    }
+
+    void onlyWhatTheStationTakesIsAdvised()
+    {
+        putFile("texts.dat"_s, programText({"t=10 x=2.5 g=A"_s, "t=10 x=2,5 g=B"_s, "t=10 x=３回 g=C"_s}));
+        const QString found = runCheck({"texts.dat"_s}).lines().join(u' ').simplified();
+        QCOMPARE(found.count("times-text"_s), 3);
+        QCOMPARE(found.count("Is it "_s), 1);
+        QVERIFY(found.contains("Is it 3?"_s));
+    }
+
+    void aTerminalObeysNoName()
+    {
+        putFile("names.dat"_s, programText({"t=10 x=\u001b[2J g=\u001b]0;\u0007\u202eA"_s}));
+        const QString shown = QString::fromUtf8(runCheck({"names.dat"_s}).out);
+        QVERIFY(shown.contains("\"\uFFFD]0;\uFFFD\uFFFDA\""_s));
+        QVERIFY(shown.contains("\"\uFFFD[2J\""_s));
+        QVERIFY(!shown.contains(QChar(0x1B)));
+    }
+
+    void aRefusalFromNowhereIsInDoubt()
+    {
+        putFile("fast.dat"_s, programText({"t=60 Ga=800"_s, "t=1"_s}));
+        QVERIFY(runCheck({"fast.dat"_s}).out.contains(": refused?\n"));
+        QVERIFY(runCheck({"--start-all"_s, "20"_s, "fast.dat"_s}).out.contains(": refused\n"));
+    }
+
     void aDroppedProgramGetsItsPage()
     {
         const GrowthCheck::Options dropped = commandLineOf({"a folder/My.Program.DAT"_s}, true).options;
@@ -121,6 +168,40 @@ private slots:
         QVERIFY(!commandLineOf({"p.txt"_s}, true).options.isDropped);
         QVERIFY(!commandLineOf({"--csv"_s, "p.dat"_s}, true).options.isDropped);
         QVERIFY(!commandLineOf({"p.dat"_s, "q.dat"_s}, true).options.isDropped);
+    }
+
+    void aPageTakesThePlaceOfNoInput_data()
+    {
+        QTest::addColumn<QStringList>("words");
+        QTest::newRow("the program") << QStringList{"--html"_s, "./input.txt"_s, "input.txt"_s};
+        QTest::newRow("the rates") << QStringList{"--html"_s, "input.txt"_s, "--layers"_s,
+            "../%1/input.txt"_s.arg(QDir::current().dirName()), "clean.dat"_s};
+        QTest::newRow("the journal of the start")
+            << QStringList{"--html"_s, "input.txt"_s, "--start-from-journal=input.txt"_s, "clean.dat"_s};
+        QTest::newRow("the program compared")
+            << QStringList{"compare"_s, "--html"_s, "input.txt"_s, "input.txt"_s, "journal"_s};
+        QTest::newRow("the journal compared")
+            << QStringList{"compare"_s, "--html"_s, "input.txt"_s, "clean.dat"_s, "input.txt"_s};
+        QTest::newRow("another program") << QStringList{"--html"_s, "noted.DAT"_s, "clean.dat"_s};
+        QTest::newRow("another journal") << QStringList{"--html"_s, "2026-11.log"_s, "clean.dat"_s};
+    }
+
+    void aPageTakesThePlaceOfNoInput()
+    {
+        QFETCH(QStringList, words);
+        const QByteArray input = programText({"t=10"_s});
+        putFile("input.txt"_s, input);
+        const CheckRun run = runCheck(words);
+        QCOMPARE(run.status, 64);
+        QCOMPARE(run.complaints.count(u'\n'), 1);
+        QCOMPARE(fileText("input.txt"_s), input);
+    }
+
+    void aPageMayBeWrittenAgain()
+    {
+        putFile("page.html"_s, "before");
+        QCOMPARE(runCheck({"--html"_s, "page.html"_s, "clean.dat"_s}).status, 0);
+        QVERIFY(fileText("page.html"_s).size() > 1000);
     }
 
     void helpNamesEveryOptionAndStatus()

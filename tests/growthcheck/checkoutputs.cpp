@@ -175,6 +175,21 @@ private slots:
         }
     }
 
+    void aCutProgramsDumpSaysSo()
+    {
+        putFile("cut.dat"_s, "0 0 900 30 0 0 0 0 0 0 0 0 0 0 0 0 0 1000000000 ---NoGroup--- 1\n");
+        const QByteArray dump = runCheck({"--start-all"_s, "30"_s, "--vcd"_s, "cut.dat"_s}).out;
+        QVERIFY(dump.endsWith("not listed $end\n"));
+        qint64 lastMs = -1;
+        for (const QByteArray& line : dump.split('\n')) {
+            if (line.startsWith('#')) {
+                QVERIFY2(line.mid(1).toLongLong() > lastMs, line.constData());
+                lastMs = line.mid(1).toLongLong();
+            }
+        }
+        QVERIFY(lastMs > 1000);
+    }
+
     void longDumpsAreCutAndSaySo()
     {
         putFile("long.dat"_s,

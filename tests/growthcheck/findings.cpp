@@ -6,6 +6,7 @@
 #include "support/testmain.h"
 #include "support/testtext.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QRegularExpression>
 #include <QSet>
@@ -107,6 +108,10 @@ const QVector<Case>& cases()
         {"a group again", {"t=10 g=A x=2"_s, "t=10 g=B x=2"_s, "t=10 g=A x=2"_s}, {"group-again step 3"_s}},
         {"groups that look alike", {"t=10 g=A x=2"_s, "t=10 g=a x=2"_s, "t=10 g=Ａ x=2"_s},
             {"group-alike step 2"_s, "group-alike step 3"_s}},
+        {"long names that look alike", {"t=10 x=2 g="_s + many("A", 64), "t=10 x=2 g="_s + many("a", 64)},
+            {"group-alike step 2"_s}},
+        {"too long names to look alike", {"t=10 x=2 g="_s + many("A", 65), "t=10 x=2 g="_s + many("a", 65)},
+            {}},
         {"a group that says no group", {"t=10 g=NoGroup"_s}, {"group-alike step 1"_s}},
         // Rows and steps.
         {"an end that means more", {"t=10"_s, "t=0 open=Ga"_s}, {"end-row step 2"_s}},
@@ -115,11 +120,13 @@ const QVector<Case>& cases()
         {"a short step", {"t=0.35"_s, "t=0.36"_s}, {"short-step step 1"_s}},
         {"a hold that grows", {"t=-1 open=Ga,As4"_s, "t=10"_s}, {"hold-open step 1"_s}},
         {"a hold under arsenic", {"t=-1 open=As4"_s, "t=10"_s}, {"hold-arsenic step 1"_s}},
+        {"a hold with set points", {"t=-1 Ga=30 Si=0 In=40"_s, "t=10"_s}, {"hold-set-points step 1"_s}},
         {"a closed hold", {"t=-1"_s, "t=10"_s}, {}},
         {"a step without end", {"t=1e300"_s}, {"endless-step step 1"_s}},
         {"a group without end", {"t=1e9 g=A x=2147483647"_s}, {"endless-step step 1"_s}},
-        {"too many set points", {"t=1e9 Ga=20 Si=20"_s},
-            {"check-stops step 1"_s, "level-ramp step 1 Ga"_s, "level-ramp step 1 Si"_s}},
+        {"too many set points", {"t=60 Ga=20"_s, "t=1e9 Ga=20 Si=20"_s},
+            {"check-stops step 2"_s, "level-ramp step 1 Ga"_s}},
+        {"a ramp without end", {"t=1e300 In=40"_s}, {"endless-step step 1"_s}},
         // Ramps.
         {"a rise too fast", {"t=60 Ga=71"_s, "t=10"_s}, {"ramp-refused step 1 Ga"_s}},
         {"a rise just slow enough", {"t=60 Ga=70"_s, "t=10"_s}, {}},
@@ -183,6 +190,17 @@ private slots:
         QFETCH(QStringList, program);
         QFETCH(QStringList, findings);
         QCOMPARE(findingsOf(program, std::nullopt).join("; "_s), findings.join("; "_s));
+    }
+
+    // Marks that combine take a time that grows with the square of their number where all are put in order.
+    void longTextsTakeNoTime()
+    {
+        const QString marks = "\u0301\u0316"_s.repeated(12000);
+        const QStringList program = rows(20, "t=10 x=2 Ga=1%1 g=A%1").replaceInStrings("%1"_s, marks);
+        QElapsedTimer timer;
+        timer.start();
+        QCOMPARE(findingsOf(program, std::nullopt).filter("set-point-text"_s).size(), 20);
+        QVERIFY2(timer.elapsed() < 5000, qPrintable("%1 ms"_s.arg(timer.elapsed())));
     }
 
     void aCellWithoutARateIsFound()

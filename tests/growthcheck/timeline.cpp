@@ -137,6 +137,31 @@ private slots:
         QVERIFY(timeline.endlessAtEnd[1]);
     }
 
+    void aProgramThatIsCutHasNoEnd()
+    {
+        for (const char* step : {"t=1e9 Ga=20 Si=900", "t=1e300 Ga=20"}) {
+            const Timeline timeline = timelineOf({QLatin1String(step)});
+            QVERIFY(timeline.stop != Timeline::Stop::AtEnd);
+            QVERIFY(timeline.isCut());
+            QVERIFY(timeline.tail.isEmpty());
+            QVERIFY(!timeline.endlessAtEnd.contains(true));
+        }
+    }
+
+    // The steps of these ramps are near the least that changes a number at all: one is rounded down to five
+    // sevenths, so that its ramp takes longer by two fifths, the other one to nothing.
+    void onlyARampThatStandsStillIsEndless()
+    {
+        const Timeline slow = timelineOf({"t=2400000 Ga=850.00000000637"_s}, allAt(850.0));
+        QCOMPARE(slow.stop, Timeline::Stop::AtEnd);
+        QVERIFY(slow.isTailCut);
+        QVERIFY(!slow.endlessAtEnd[1]);
+        const Timeline still = timelineOf({"t=2400000 Ga=850.000000001"_s}, allAt(850.0));
+        QVERIFY(!still.isTailCut);
+        QVERIFY(still.endlessAtEnd[1]);
+        QVERIFY(!timelineOf({"t=60 Ga=30"_s, "t=1"_s}).isCut());
+    }
+
     void twoThousandMillionPassesAreOne()
     {
         const Timeline few = timelineOf({"t=0.5 g=A x=4"_s, "t=0.1"_s});
