@@ -29,6 +29,7 @@ public:
     double timeSec(int row) const override { return rows[row].timeSec; }
     QString group(int row) const override { return rows[row].group; }
     int times(int row) const override { return rows[row].times; }
+    ProgramStep step(int) const override { return {}; } // a walk does not look at it
 
 private:
     const QVector<Row>& rows;
