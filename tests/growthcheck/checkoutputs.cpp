@@ -163,6 +163,9 @@ private slots:
 
     void everyRowOfATableHasItsFields()
     {
+#ifdef Q_OS_WIN
+        QSKIP("no file has such a name on Windows");
+#endif
         putFile("a \"comma\", b.dat"_s, fileText("stack.dat"_s).replace("SL", "\"S,L\""));
         const CheckRun run = runCheck({"--csv"_s, "stack.dat"_s, "a \"comma\", b.dat"_s});
         QStringList lines = run.lines();

@@ -48,7 +48,9 @@ FiredTimers::FiredTimers()
 
 bool FiredTimers::eventFilter(QObject* receiver, QEvent* event)
 {
-    if (const QTimer* timer = ownTimer(receiver, event)) {
+    const QTimer* timer = ownTimer(receiver, event);
+    // Those without an interval are how the toolkit puts work off.
+    if (timer != nullptr && timer->interval() > 0) {
         fired[timer->interval()] = QString::number(timer->interval());
     }
     return false;

@@ -104,6 +104,9 @@ private slots:
 
     void itHoldsTheTextsOfTheSourcesAndNoOthers()
     {
+#ifdef Q_OS_WIN
+        QSKIP("lupdate is the building system's, which runs this test itself");
+#endif
         QFETCH(QString, catalogue);
         QFETCH(QStringList, sources);
         const QString fresh = QDir::current().filePath("fresh.ts"_s);
