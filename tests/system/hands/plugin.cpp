@@ -11,7 +11,7 @@ class HandsPlugin : public QGenericPlugin
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "hands.json")
 
 public:
-    QObject* create(const QString& /*name*/, const QString& /*specification*/) override
+    QObject* create(const QString& /*name*/, const QString& /*arguments*/) override
     {
         return new Hands(qEnvironmentVariable("NELVO_HANDS"));
     }
