@@ -77,6 +77,7 @@ void printScaledRuns(const Figures& figures, const RunTimes& unscaled)
         };
         const double waveform = times.value(QStringLiteral("waveform/ours"));
         const double noise = times.value(QStringLiteral("noise/ours"));
+        figures.atMost(figure("waveform").c_str(), frameMs, waveform, "ms");
         figures.atMost(figure("waveform, scaled / unscaled").c_str(), 2.0,
             waveform / unscaled.ms("waveform" + same), "");
         figures.atMost(
