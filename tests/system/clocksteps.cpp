@@ -141,7 +141,8 @@ private slots:
         QVERIFY(chamber->waitForText("shutters "_s, 8));
         const QVector<double> times = shutterTimes(chamber->output());
         for (int k = 1; k < times.size(); ++k) {
-            QVERIFY2(times[k] - times[k - 1] > 0.9, qPrintable(chamber->output()));
+            // After a step that a busy machine held up the next one comes in time: the sooner for it.
+            QVERIFY2(times[k] - times[k - 1] > 0.5, qPrintable(chamber->output()));
         }
         QVERIFY(station->process().waitFor(
             [this](const QString&) { return station->text("ProgRun"_s) == "Run"_s; }));
