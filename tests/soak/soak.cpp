@@ -91,6 +91,7 @@ private:
         bool isFull = false;
         while (passedMs() - openedMs < plan.windowMs && passedMs() < plan.totalMs && hold()) {
             rest(pauseMs());
+            noteWorstTick();
             if (hold()) {
                 hands.act();
                 station.settle();
@@ -146,6 +147,15 @@ private:
         return model.divergence().isEmpty();
     }
 
+    // What was done before the costliest tick tells where its time went.
+    void noteWorstTick()
+    {
+        if (station.worstTickMs() > worstMs) {
+            worstMs = station.worstTickMs();
+            beforeWorst = hands.latest().isEmpty() ? QString() : hands.latest().last();
+        }
+    }
+
     // Every round has its line. The file goes afterwards: it would grow by 15 MB a day.
     void checkRecord()
     {
@@ -160,10 +170,10 @@ private:
     void tellFigures(const char* when)
     {
         std::printf("%-10s %7.2f h  actions %7d  set points %7d  shutter commands %7d  steps %7d  "
-                    "resident %7.1f MB (%+.2f %% since the chart was full)  worst tick %.1f ms\n",
+                    "resident %7.1f MB (%+.2f %% since the chart was full)  worst tick %.1f ms after '%s'\n",
             when, static_cast<double>(passedMs()) / hourMs, hands.actions(), model.cells.sentSetPoints(),
             model.shutters.sentCommands(), model.program.startedSteps(), residentMb(),
-            fullMb > 0.0 ? 100.0 * (residentMb() / fullMb - 1.0) : 0.0, station.worstTickMs());
+            fullMb > 0.0 ? 100.0 * (residentMb() / fullMb - 1.0) : 0.0, worstMs, qPrintable(beforeWorst));
         std::fflush(stdout);
     }
 
@@ -175,6 +185,8 @@ private:
     const qint64 startMs;
     qint64 nextTellMs = dayMs;
     double fullMb = 0.0;
+    double worstMs = 0.0;
+    QString beforeWorst;
 };
 
 Plan readPlan(const QStringList& arguments)
