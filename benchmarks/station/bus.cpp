@@ -10,6 +10,7 @@
 
 #include <QtTest>
 
+#include <algorithm>
 #include <memory>
 #include <random>
 
@@ -25,6 +26,7 @@ constexpr int rounds = 25;
 constexpr int freeClicks = 300;
 constexpr int pendingClicks = 120;
 constexpr int pendingReplyMs = 60;
+constexpr int lastCommandMs = 500; // for the last command to leave, however slow the machine
 
 std::unique_ptr<MBEMain> shownWindow()
 {
@@ -55,6 +57,7 @@ std::vector<qint64> clickShutters(MBEMain& window, int clicks, int shortestGapMs
         QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, middle);
         letRun(shortestGapMs);
     }
+    letRun(lastCommandMs);
     return releases;
 }
 
@@ -65,15 +68,21 @@ void stopPolling(MBEMain& window)
     letRun(100); // a reply may be on its way
 }
 
-// The shutter commands that followed the clicks; the one of the start is left out.
+// For each click the shutter command that carried it: the first one afterwards. Two clicks may have one
+// command where a slow machine brought the second before the first had left.
 std::vector<WireEvent> commandsFor(const std::vector<qint64>& clicks, const std::vector<WireEvent>& events)
 {
-    std::vector<WireEvent> commands = only(WireEvent::Shutters, events);
-    if (commands.size() != clicks.size() + 1) {
-        fail("not every click gave one shutter command");
+    const std::vector<WireEvent> commands = only(WireEvent::Shutters, events);
+    std::vector<WireEvent> carriers;
+    for (const qint64 click : clicks) {
+        const auto carrier = std::find_if(commands.begin(), commands.end(),
+            [click](const WireEvent& command) { return command.ns > click; });
+        if (carrier == commands.end()) {
+            fail("a click gave no shutter command");
+        }
+        carriers.push_back(*carrier);
     }
-    commands.erase(commands.begin());
-    return commands;
+    return carriers;
 }
 
 void measureRound(const Figures& figures)
