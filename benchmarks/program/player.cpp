@@ -101,10 +101,11 @@ void measureRun(const Figures& figures)
     letRun(100); // the last command may be on its way
     main.reset();
 
-    // The first command is that of the station's start.
+    // The first command is that of the station's start. On a machine that stands still for a step's time the
+    // next step overtakes a command that waits for the bus.
     const std::vector<WireEvent> commands = only(WireEvent::Shutters, peer.finish());
-    if (commands.size() != runSteps + 1) {
-        fail("not every step gave one shutter command");
+    if (commands.size() < runSteps / 2) {
+        fail("the steps gave no shutter commands");
     }
     const auto msBetween = [&commands](size_t first, size_t last) {
         return static_cast<double>(commands[last].ns - commands[first].ns) / 1e6;
@@ -113,7 +114,9 @@ void measureRun(const Figures& figures)
     for (size_t i = 2; i < commands.size(); ++i) {
         errors.push_back(std::abs(msBetween(i - 1, i) - runStepMs));
     }
-    const double drift = msBetween(1, commands.size() - 1) / static_cast<double>(errors.size()) - runStepMs;
+    const double drift = msBetween(1, commands.size() - 1) / (runSteps - 1) - runStepMs;
+    figures.atMost("500 steps of 50 ms, commands overtaken", 0.0,
+        static_cast<double>(runSteps + 1) - static_cast<double>(commands.size()), "");
     figures.atMost("500 steps of 50 ms, off their time, median", 20.0, median(errors), "ms");
     figures.atMost("500 steps of 50 ms, off their time, worst", 20.0, worst(errors), "ms");
     figures.atMost("500 steps of 50 ms, added up, a step", 10.0, drift, "ms");
