@@ -32,7 +32,7 @@ Nelvo [OPTION]...
 The adapter&apos;s host is the one that the environment variable NELVO_ADAPTER names, else the one
 in the line &quot;adapter=HOST&quot; of the file nelvo.ini beside the program, else the one compiled in.
 </source>
-        <translation>Nelvo: MBE 成長室の制御ステーション
+        <translation>Nelvo: MBE 成長室の操作盤
 
 Nelvo [オプション]...
   -j                    日本語で起動します (指定がなければ日本語)
@@ -461,7 +461,7 @@ Nelvo [オプション]...
     <message>
         <source>Kept awake while a program plays or a ramp runs: %1
 </source>
-        <translation>プログラム実行中・昇温中のスリープ防止: %1
+        <translation>プログラム実行中・昇降温中のスリープ防止: %1
 </translation>
     </message>
     <message>
@@ -473,7 +473,7 @@ Nelvo [オプション]...
     <message>
         <source>The ticks are too late: steps and ramps would be late with them.
 </source>
-        <translation>刻みが遅すぎます。ステップと昇温も遅れます。
+        <translation>刻みが遅すぎます。ステップと昇降温も遅れます。
 </translation>
     </message>
     <message>
@@ -485,7 +485,7 @@ Nelvo [オプション]...
     <message>
         <source>This PC can run the station.
 </source>
-        <translation>この PC でステーションを動かせます。
+        <translation>この PC で操作盤を動かせます。
 </translation>
     </message>
     <message>
@@ -501,7 +501,7 @@ Nelvo [オプション]...
     </message>
     <message>
         <source>A cell&apos;s temperature is ramping.</source>
-        <translation>セルの温度を変更中です。</translation>
+        <translation>セルを昇降温中です。</translation>
     </message>
 </context>
 </TS>
