@@ -173,6 +173,11 @@ Nelvo [オプション]...
         <translation>セル [%2:%3] の目標値 [%1] は数値ではないため、0 とみなします。</translation>
     </message>
     <message>
+        <source>en</source>
+        <comment>the language of the manual, which there is in en and ja</comment>
+        <translation>ja</translation>
+    </message>
+    <message>
         <source>English</source>
         <comment>the name of the language of these texts</comment>
         <translation>日本語</translation>
