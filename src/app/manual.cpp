@@ -4,26 +4,17 @@
 #include <QDir>
 #include <QFileInfo>
 
-QString manualFile(const QString& language)
+// A page for each part, and not an anchor behind the name of one: on its way to the browser a system may lose
+// that.
+QString manualPage(const QString& language, const QString& part)
 {
     const QDir programs(QCoreApplication::applicationDirPath());
     for (const char* folder : {"manual", NELVO_INSTALLED_MANUAL}) {
         const QString name
-            = programs.filePath(QLatin1String(folder) + QStringLiteral("/%1.html").arg(language));
+            = programs.filePath(QStringLiteral("%1/%2-%3.html").arg(QLatin1String(folder), language, part));
         if (QFileInfo(name).isFile()) {
             return QDir::cleanPath(name);
         }
     }
     return {};
-}
-
-QUrl manualPart(const QString& language, const QString& part)
-{
-    const QString name = manualFile(language);
-    if (name.isEmpty()) {
-        return {};
-    }
-    QUrl page = QUrl::fromLocalFile(name);
-    page.setFragment(part);
-    return page;
 }

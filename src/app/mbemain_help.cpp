@@ -6,6 +6,7 @@
 
 #include <QDesktopServices>
 #include <QShortcut>
+#include <QUrl>
 
 void MBEMain::setupHelp()
 {
@@ -19,8 +20,9 @@ void MBEMain::showHelp()
 {
     const QString part
         = tabWidget->currentWidget() == tab_9 ? QStringLiteral("program") : QStringLiteral("chart");
-    const QUrl page = manualPart(tr("en", "the language of the manual, which there is in en and ja"), part);
-    if (!page.isValid() || !QDesktopServices::openUrl(page)) {
+    const QString page
+        = manualPage(tr("en", "the language of the manual, which there is in en and ja"), part);
+    if (page.isEmpty() || !QDesktopServices::openUrl(QUrl::fromLocalFile(page))) {
         journal->write("no-manual");
     }
 }
