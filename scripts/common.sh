@@ -6,11 +6,11 @@ project_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 say() { printf '== %s\n' "$*"; }
 fail() { printf 'FAILED: %s\n' "$*" >&2; exit 1; }
 
-build_packages=(g++ cmake ninja-build ccache qtbase5-dev qttools5-dev qttools5-dev-tools)
+build_packages=(g++ cmake ninja-build ccache qtbase5-dev qttools5-dev qttools5-dev-tools python3-markdown)
 # shellcheck disable=SC2034 # used by the scripts that read this one
 window_packages=(fonts-noto-cjk libfaketime qttranslations5-l10n)
 demo_packages=(fonts-noto-cjk xvfb xdotool openbox)
-check_packages=(clang-format clang-tidy)
+check_packages=(clang-format clang-tidy desktop-file-utils appstream)
 fuzz_packages=(clang libclang-rt-14-dev)
 # shellcheck disable=SC2034
 bench_packages=(libbenchmark-dev libqcustomplot-dev libqwt-qt5-dev)

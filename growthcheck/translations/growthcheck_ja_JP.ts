@@ -181,7 +181,7 @@ journal, what it did.</source>
     </message>
     <message>
         <source>--html %1: that is a program&apos;s or a journal&apos;s name</source>
-        <translation>--html %1: プログラムか記録の名前です</translation>
+        <translation>--html %1: プログラムかジャーナルの名前です</translation>
     </message>
     <message>
         <source>--html %1: that file is read</source>
@@ -281,7 +281,7 @@ journal, what it did.</source>
     </message>
     <message>
         <source>A hold sets no set points; the station leaves out those of: %1.</source>
-        <translation>操作者を待つ行の設定値は送られません: %1。</translation>
+        <translation>待機点の設定値は送られません: %1。</translation>
     </message>
     <message>
         <source>The program ends in step %1, within the group: it is played once, not %2 times.</source>

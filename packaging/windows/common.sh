@@ -8,7 +8,7 @@ cache=${NELVO_CACHE:-$HOME/.cache/nelvo}
 
 # shellcheck disable=SC2034 # used by the scripts that read this one
 windows_packages=("${build_packages[@]}" "${window_packages[@]}" g++-mingw-w64-x86-64-posix gcc-mingw-w64-x86-64-posix dpkg-dev make perl nsis
-  python3-markdown wine64 locales "${demo_packages[@]}")
+  wine64 locales "${demo_packages[@]}")
 
 qt_version() { dpkg-query -W -f='${source:Version}' qtbase5-dev; }
 

@@ -7,7 +7,7 @@
 !define MENU "$SMPROGRAMS\Nelvo"
 !define STATION_JA "Nelvo (日本語).lnk"
 !define STATION_EN "Nelvo (English).lnk"
-!define SIMULATOR_JA "Nelvo 模擬チャンバー.lnk"
+!define SIMULATOR_JA "Nelvo 模擬成長室.lnk"
 !define SIMULATOR_EN "Nelvo simulated chamber.lnk"
 !define MANUAL_JA "Nelvo マニュアル.lnk"
 !define MANUAL_EN "Nelvo manual.lnk"

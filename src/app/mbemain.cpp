@@ -40,6 +40,7 @@ MBEMain::MBEMain()
 
     startTime = WallClock::nowMs();
     Tshow->setStartTime(startTime);
+    setupHelp();
 }
 
 // The station itself never deletes its window; tests, which build many, do.

@@ -83,6 +83,9 @@ private slots:
 private:
     void setupNames();
 
+    void setupHelp();
+    void showHelp();
+
     // journal/
     void setupJournal();
     void journalTick();

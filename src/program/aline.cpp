@@ -35,6 +35,19 @@ QLineEdit* newNumberEdit(const QString& text, QWidget* parent)
     return edit;
 }
 
+constexpr int shutterButtonHeight = 20; // pixels
+
+// From some 120 dpi on the usual font's letters are higher than a button of a fixed height.
+void fitIntoHeight(QWidget& widget, int height)
+{
+    QFont font = widget.font();
+    constexpr double pointsPerInch = 72.0;
+    if (font.pointSizeF() * widget.logicalDpiY() / pointsPerInch > height) {
+        font.setPixelSize(height);
+        widget.setFont(font);
+    }
+}
+
 } // namespace
 
 aLine::aLine(QWidget* widgetParent)
@@ -97,7 +110,8 @@ void aLine::buildCell(QWidget* widgetParent)
     QLineEdit* edit = newNumberEdit(QStringLiteral("0"), cell);
     edit->setMinimumWidth(50);
     auto* button = new QToolButton(cell);
-    button->setMaximumHeight(20);
+    button->setMaximumHeight(shutterButtonHeight);
+    fitIntoHeight(*button, shutterButtonHeight);
     connect(button, SIGNAL(clicked()), this, SLOT(TurnSs()), Qt::UniqueConnection);
 
     auto* box = new QHBoxLayout(cell);

@@ -32,7 +32,7 @@ Nelvo [OPTION]...
 The adapter&apos;s host is the one that the environment variable NELVO_ADAPTER names, else the one
 in the line &quot;adapter=HOST&quot; of the file nelvo.ini beside the program, else the one compiled in.
 </source>
-        <translation>Nelvo: MBE 成長室の制御ステーション
+        <translation>Nelvo: MBE 成長室の操作盤
 
 Nelvo [オプション]...
   -j                    日本語で起動します (指定がなければ日本語)
@@ -171,6 +171,11 @@ Nelvo [オプション]...
     <message>
         <source>The target [%1] of the cell [%2:%3] is not a number and counts as 0.</source>
         <translation>セル [%2:%3] の目標値 [%1] は数値ではないため、0 とみなします。</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <comment>the language of the manual, which there is in en and ja</comment>
+        <translation>ja</translation>
     </message>
     <message>
         <source>English</source>
@@ -461,7 +466,7 @@ Nelvo [オプション]...
     <message>
         <source>Kept awake while a program plays or a ramp runs: %1
 </source>
-        <translation>プログラム実行中・昇温中のスリープ防止: %1
+        <translation>プログラム実行中・昇降温中のスリープ防止: %1
 </translation>
     </message>
     <message>
@@ -473,7 +478,7 @@ Nelvo [オプション]...
     <message>
         <source>The ticks are too late: steps and ramps would be late with them.
 </source>
-        <translation>刻みが遅すぎます。ステップと昇温も遅れます。
+        <translation>刻みが遅すぎます。ステップと昇降温も遅れます。
 </translation>
     </message>
     <message>
@@ -485,7 +490,7 @@ Nelvo [オプション]...
     <message>
         <source>This PC can run the station.
 </source>
-        <translation>この PC でステーションを動かせます。
+        <translation>この PC で操作盤を動かせます。
 </translation>
     </message>
     <message>
@@ -501,7 +506,7 @@ Nelvo [オプション]...
     </message>
     <message>
         <source>A cell&apos;s temperature is ramping.</source>
-        <translation>セルの温度を変更中です。</translation>
+        <translation>セルを昇降温中です。</translation>
     </message>
 </context>
 </TS>

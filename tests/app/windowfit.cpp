@@ -5,7 +5,11 @@
 #include "support/station.h"
 #include "support/testmain.h"
 
+#include <QCheckBox>
 #include <QLineEdit>
+#include <QScreen>
+#include <QStyleOptionButton>
+#include <QTabWidget>
 #include <QTranslator>
 
 using namespace TestText;
@@ -23,6 +27,57 @@ int roomIn(const QWidget& widget)
     const auto* edit = qobject_cast<const QLineEdit*>(&widget);
     // The toolkit keeps two pixels left and right of an entry's text.
     return edit == nullptr ? widget.contentsRect().width() : widget.width() - 2 * (2 + 1);
+}
+
+// The room that the style leaves for a button's text: a box has its tick beside it. A button of the other
+// kinds may use all of itself, since its text is what it consists of.
+QSize roomForText(const QWidget& widget)
+{
+    const auto* box = qobject_cast<const QCheckBox*>(&widget);
+    if (box != nullptr) {
+        QStyleOptionButton option;
+        option.initFrom(box);
+        const QRect contents = box->style()->subElementRect(QStyle::SE_CheckBoxContents, &option, box);
+        return {contents.width(), widget.height()};
+    }
+    return {widget.contentsRect().width(), widget.height()};
+}
+
+// The ink counts for the height: the table's rows are as low as they are meant to be, whatever the font's
+// lines need.
+QSize neededForText(const QWidget& widget)
+{
+    const QString text = textOf(widget);
+    return {
+        widget.fontMetrics().horizontalAdvance(text), widget.fontMetrics().tightBoundingRect(text).height()};
+}
+
+QList<QWidget*> labelsAndButtons(const QWidget& window)
+{
+    QList<QWidget*> found;
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        const bool hasText
+            = qobject_cast<QLabel*>(widget) != nullptr || qobject_cast<QAbstractButton*>(widget) != nullptr;
+        if (hasText && widget->isVisibleTo(&window) && !textOf(*widget).isEmpty()) {
+            found.append(widget);
+        }
+    }
+    return found;
+}
+
+QString nameOf(const QWidget& widget)
+{
+    return widget.objectName().isEmpty() ? QLatin1String(widget.metaObject()->className())
+                                         : widget.objectName();
+}
+
+// A paused program in the table, with the longest figures that its bar shows.
+void showLongestBar(const Station& station)
+{
+    station.click("ProgPause"_s);
+    for (const char* figure : {"DispTime01", "DispTime02", "DispTTime01", "DispTTime02"}) {
+        station.find<QLabel>(QLatin1String(figure)).setText("86400000.0"_s);
+    }
 }
 
 // Lays the window out at its initial size as showing it would, without a platform window.
@@ -83,6 +138,54 @@ private slots:
             if (widget.isVisibleTo(&station.window()) && needed > roomIn(widget)) {
                 cramped.append("%1: %2 needs %3 of %4"_s.arg(
                     listed.name, textOf(widget), QString::number(needed), QString::number(roomIn(widget))));
+            }
+        }
+        QCOMPARE(cramped, QStringList());
+    }
+
+    // On the screen's resolution: the texts of both tabs, which the form's table does not have.
+    void everyLabelAndButtonHasRoom_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<int>("tabIndex");
+        for (const Language& language : languages()) {
+            QTest::addRow("%s, program", qPrintable(language.argument)) << language.argument << 0;
+            QTest::addRow("%s, chart", qPrintable(language.argument)) << language.argument << 1;
+        }
+    }
+
+    void everyLabelAndButtonHasRoom()
+    {
+        QFETCH(QString, language);
+        QFETCH(int, tabIndex);
+        const int dpi = qEnvironmentVariableIntValue("QT_FONT_DPI");
+        QVERIFY(dpi == 0 || qRound(QGuiApplication::primaryScreen()->logicalDotsPerInchY()) == dpi);
+        QTranslator translator;
+        speak(chooseLanguage({QString(), language}), translator);
+        Station station;
+        QVERIFY(station.open());
+        station.find<QTabWidget>("tabWidget"_s).setCurrentIndex(tabIndex);
+        if (tabIndex == 0) {
+            station.program().enter(0, "100"_s);
+            station.click("ProgRun"_s);
+            showLongestBar(station);
+        }
+        station.window().show();
+        QVERIFY(QTest::qWaitForWindowExposed(&station.window()));
+        layOut(station);
+
+        QStringList cramped;
+        const QList<QWidget*> all = labelsAndButtons(station.window());
+        QVERIFY(all.size() > 50);
+        for (const QWidget* widget : all) {
+            const QSize needed = neededForText(*widget);
+            const QSize room = roomForText(*widget);
+            if (needed.width() > room.width() || needed.height() > room.height()) {
+                cramped.append("%1: %2 needs %3 x %4 of %5 x %6"_s.arg(nameOf(*widget), textOf(*widget))
+                                   .arg(needed.width())
+                                   .arg(needed.height())
+                                   .arg(room.width())
+                                   .arg(room.height()));
             }
         }
         QCOMPARE(cramped, QStringList());
