@@ -308,10 +308,6 @@ journal, what it did.</source>
         <translation>%1 は普通のグループ名です。グループなしは &quot;---NoGroup---&quot; です。</translation>
     </message>
     <message>
-        <source>The groups %1 and %2 look alike and are two.</source>
-        <translation>グループ %1 と %2 は似ていますが別のものです。</translation>
-    </message>
-    <message>
         <source>The group %1 was there before: this is another one, repeated by itself.</source>
         <translation>グループ %1 は前にもあります。これは別のグループで、別に繰り返されます。</translation>
     </message>
@@ -907,6 +903,10 @@ journal, what it did.</source>
     <message>
         <source>no line tells the temperatures of all channels</source>
         <translation>全チャネルの温度の行がありません</translation>
+    </message>
+    <message>
+        <source>The group %1 looks like %2 of step %3 and is another one.</source>
+        <translation>グループ %1 はステップ %3 の %2 に似ていますが別のものです。</translation>
     </message>
 </context>
 </TS>
