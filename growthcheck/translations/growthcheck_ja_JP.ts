@@ -908,5 +908,9 @@ journal, what it did.</source>
         <source>The group %1 looks like %2 of step %3 and is another one.</source>
         <translation>グループ %1 はステップ %3 の %2 に似ていますが別のものです。</translation>
     </message>
+    <message>
+        <source>more than 1e+308</source>
+        <translation>1e+308 以上</translation>
+    </message>
 </context>
 </TS>
