@@ -380,10 +380,6 @@ journal, what it did.</source>
         <translation>%1 で打ち切ります。異なるステップが 20,000、または設定値が 50,000 を超えます。以降は見ていません。</translation>
     </message>
     <message>
-        <source>The station shows a total of %1 s and plays %2 s: every step begins up to 10 ms late, and waits at holds are not counted.</source>
-        <translation>操作盤の総時間は %1 秒、実際は %2 秒です。各ステップは最大 10 ms 遅れ、待機点の待ちは数えません。</translation>
-    </message>
-    <message>
         <source>The program ends with open shutters, and the station leaves them so: %1.</source>
         <translation>シャッターが開いたまま終わり、そのままになります: %1。</translation>
     </message>
@@ -911,6 +907,22 @@ journal, what it did.</source>
     <message>
         <source>more than 1e+308</source>
         <translation>1e+308 以上</translation>
+    </message>
+    <message>
+        <source>every step begins up to 10 ms late</source>
+        <translation>各ステップは最大 10 ms 遅れます</translation>
+    </message>
+    <message>
+        <source>waits at holds are not counted</source>
+        <translation>待機点の待ちは数えません</translation>
+    </message>
+    <message>
+        <source>step %1 is played and not counted (%2 s)</source>
+        <translation>ステップ %1 は実行されますが数えません（%2 秒）</translation>
+    </message>
+    <message>
+        <source>The station shows a total of %1 s and plays %2 s: %3.</source>
+        <translation>操作盤の総時間は %1 秒、実際は %2 秒です（%3）。</translation>
     </message>
 </context>
 </TS>

@@ -213,6 +213,33 @@ private slots:
         QCOMPARE(findingsOf(program, std::nullopt).join("; "_s), findings.join("; "_s));
     }
 
+    void aTotalSaysWhyItIsNotTheTime_data()
+    {
+        QTest::addColumn<QStringList>("program");
+        QTest::addColumn<QString>("why");
+        const QString late = "every step begins up to 10 ms late"_s;
+        const QString waits = "; waits at holds are not counted"_s;
+        const QString last = "; step 200 is played and not counted (7.5 s)"_s;
+        const QStringList most = rows(199, "t=10");
+        QTest::newRow("many steps") << most << late;
+        QTest::newRow("a hold") << QStringList({"t=-1"_s}) + rows(120, "t=10") << late + waits;
+        QTest::newRow("row 200") << most + QStringList({"t=7.5"_s}) << late + last;
+        QTest::newRow("row 200 in a group")
+            << rows(199, "t=10 g=A x=3") + QStringList({"t=7.5 g=A"_s}) << late + last;
+        QTest::newRow("row 200 and a hold")
+            << rows(198, "t=10") + QStringList({"t=-1"_s, "t=7.5"_s}) << late + waits + last;
+        QTest::newRow("row 200 holds") << most + QStringList({"t=-1"_s}) << late + waits;
+        QTest::newRow("row 200 is not reached")
+            << rows(198, "t=10") + QStringList({"t=0"_s, "t=7.5"_s}) << late;
+    }
+
+    void aTotalSaysWhyItIsNotTheTime()
+    {
+        QFETCH(QStringList, program);
+        QFETCH(QString, why);
+        QCOMPARE(sentences(program, "total-time").section(u':', 1), u' ' + why + u'.');
+    }
+
     void groupsThatLookAlikeAreNamed()
     {
         QCOMPARE(sentences({"t=10 g=A"_s, "t=10 g=B"_s, "t=10 g=Ａ"_s}, "group-alike"),
