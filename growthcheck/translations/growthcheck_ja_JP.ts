@@ -136,10 +136,6 @@ journal, what it did.</source>
         <translation>Ga=850 や &quot;Main Ch=none&quot; のような CELL=DEGC </translation>
     </message>
     <message>
-        <source>a temperature</source>
-        <translation>温度</translation>
-    </message>
-    <message>
         <source>a time such as 2026-11-22T08:00</source>
         <translation>2026-11-22T08:00 のような時刻</translation>
     </message>
@@ -923,6 +919,38 @@ journal, what it did.</source>
     <message>
         <source>The station shows a total of %1 s and plays %2 s: %3.</source>
         <translation>操作盤の総時間は %1 秒、実際は %2 秒です（%3）。</translation>
+    </message>
+    <message>
+        <source>--%1 is given twice</source>
+        <translation>--%1 が二度指定されています</translation>
+    </message>
+    <message>
+        <source>--%1 does nothing with %2</source>
+        <translation>--%1 は %2 とともには働きません</translation>
+    </message>
+    <message>
+        <source>--layers does nothing with compare but for --html</source>
+        <translation>compare の --layers は --html のときだけ働きます</translation>
+    </message>
+    <message>
+        <source>--run does nothing without compare</source>
+        <translation>--run は compare のときだけ働きます</translation>
+    </message>
+    <message>
+        <source>--%1 %2: no channel is called %3; these are: %4</source>
+        <translation>--%1 %2: %3 というチャネルはありません。あるのは: %4</translation>
+    </message>
+    <message>
+        <source>a temperature from -999.9 to 9999.9, or &quot;none&quot;, behind &quot;=&quot;,</source>
+        <translation>&quot;=&quot; の後に -999.9 から 9999.9 までの温度か &quot;none&quot; </translation>
+    </message>
+    <message>
+        <source>a temperature from -999.9 to 9999.9</source>
+        <translation>-999.9 から 9999.9 までの温度</translation>
+    </message>
+    <message>
+        <source>a file&apos;s name</source>
+        <translation>ファイル名</translation>
     </message>
 </context>
 </TS>
