@@ -111,8 +111,8 @@ Findings checkRates(const Timeline& timeline, const Rates& rates)
                 finding.kind = Kinds::rateMissing;
                 finding.channel = shutter;
                 finding.text
-                    = Words::tr("The shutter opens, and the rates say nothing of its cell: what it "
-                                         "grows is missing from the layers.");
+                    = Words::tr("The shutter opens, and its cell has no rate: what it grows is missing "
+                                "from the layers.");
                 addOnce(findings, finding);
             }
         }

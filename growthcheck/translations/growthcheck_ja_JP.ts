@@ -560,18 +560,6 @@ journal, what it did.</source>
         <translation>実行は %1 回です</translation>
     </message>
     <message>
-        <source>The shutter opens, and the rates say nothing of its cell: what it grows is missing from the layers.</source>
-        <translation>シャッターが開きますが、セルの成長速度がありません。その分は層に入っていません。</translation>
-    </message>
-    <message>
-        <source>%1 is not a source cell</source>
-        <translation>%1 は原料セルではありません</translation>
-    </message>
-    <message>
-        <source>a rate from 0 to 1000 nm/s is wanted behind %1</source>
-        <translation>%1 の後に 0～1000 nm/s の速度が必要です</translation>
-    </message>
-    <message>
         <source>line %1: %2</source>
         <translation>%1 行目: %2</translation>
     </message>
@@ -897,30 +885,6 @@ journal, what it did.</source>
         <translation>全チャネルの温度の行がありません</translation>
     </message>
     <message>
-        <source>The group %1 looks like %2 of step %3 and is another one.</source>
-        <translation>グループ %1 はステップ %3 の %2 に似ていますが別のものです。</translation>
-    </message>
-    <message>
-        <source>more than 1e+308</source>
-        <translation>1e+308 以上</translation>
-    </message>
-    <message>
-        <source>every step begins up to 10 ms late</source>
-        <translation>各ステップは最大 10 ms 遅れます</translation>
-    </message>
-    <message>
-        <source>waits at holds are not counted</source>
-        <translation>待機点の待ちは数えません</translation>
-    </message>
-    <message>
-        <source>step %1 is played and not counted (%2 s)</source>
-        <translation>ステップ %1 は実行されますが数えません（%2 秒）</translation>
-    </message>
-    <message>
-        <source>The station shows a total of %1 s and plays %2 s: %3.</source>
-        <translation>操作盤の総時間は %1 秒、実際は %2 秒です（%3）。</translation>
-    </message>
-    <message>
         <source>--%1 is given twice</source>
         <translation>--%1 が二度指定されています</translation>
     </message>
@@ -951,6 +915,62 @@ journal, what it did.</source>
     <message>
         <source>a file&apos;s name</source>
         <translation>ファイル名</translation>
+    </message>
+    <message>
+        <source>The group %1 looks like %2 of step %3 and is another one.</source>
+        <translation>グループ %1 はステップ %3 の %2 に似ていますが別のものです。</translation>
+    </message>
+    <message>
+        <source>every step begins up to 10 ms late</source>
+        <translation>各ステップは最大 10 ms 遅れます</translation>
+    </message>
+    <message>
+        <source>waits at holds are not counted</source>
+        <translation>待機点の待ちは数えません</translation>
+    </message>
+    <message>
+        <source>step %1 is played and not counted (%2 s)</source>
+        <translation>ステップ %1 は実行されますが数えません（%2 秒）</translation>
+    </message>
+    <message>
+        <source>The station shows a total of %1 s and plays %2 s: %3.</source>
+        <translation>操作盤の総時間は %1 秒、実際は %2 秒です（%3）。</translation>
+    </message>
+    <message>
+        <source>more than 1e+308</source>
+        <translation>1e+308 以上</translation>
+    </message>
+    <message>
+        <source>The shutter opens, and its cell has no rate: what it grows is missing from the layers.</source>
+        <translation>シャッターが開きますが、セルの成長速度がありません。その分は層に入っていません。</translation>
+    </message>
+    <message>
+        <source>it has more than 1,000 characters</source>
+        <translation>1,000 文字を超えます</translation>
+    </message>
+    <message>
+        <source>some characters cannot be read; save the file as UTF-8</source>
+        <translation>読めない文字があります。UTF-8 で保存してください</translation>
+    </message>
+    <message>
+        <source>%1 is not a source cell; these are: %2</source>
+        <translation>%1 は原料セルではありません。あるのは: %2</translation>
+    </message>
+    <message>
+        <source>%1 has its rate in line %2 already</source>
+        <translation>%1 の速度はすでに %2 行目にあります</translation>
+    </message>
+    <message>
+        <source>behind %1 stands one rate, and nothing else but a remark (#)</source>
+        <translation>%1 の後に書けるのは速度一つと注釈 (#) だけです</translation>
+    </message>
+    <message>
+        <source>the rate of %1 is %2, where a number from 0 to 1000 nm/s is wanted.%3</source>
+        <translation>%1 の速度が %2 です。0～1000 nm/s の数が必要です。%3</translation>
+    </message>
+    <message>
+        <source>it is larger than 64 KiB</source>
+        <translation>64 KiB を超えています</translation>
     </message>
 </context>
 </TS>
