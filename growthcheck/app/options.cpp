@@ -1,6 +1,8 @@
 #include "growthcheck/app/options.h"
 
 #include "base/number.h"
+#include "growthcheck/app/idleoptions.h"
+#include "growthcheck/app/optionnames.h"
 #include "growthcheck/check/words.h"
 
 #include <QCommandLineParser>
@@ -13,19 +15,10 @@ namespace GrowthCheck {
 
 namespace {
 
-const QString startName = QStringLiteral("start");
-const QString startAllName = QStringLiteral("start-all");
-const QString startJournalName = QStringLiteral("start-from-journal");
-const QString atName = QStringLiteral("at");
-const QString holdName = QStringLiteral("hold");
-const QString replyName = QStringLiteral("reply");
-const QString layersName = QStringLiteral("layers");
-const QString runName = QStringLiteral("run");
-const QString htmlName = QStringLiteral("html");
-const QString languageName = QStringLiteral("language");
-
 constexpr double longestHoldSec = 1e7;
 constexpr int longestReplyMs = 3000; // then the station gives it up
+constexpr double lowestDegC = -999.9; // a controller knows no others
+constexpr double highestDegC = 9999.9;
 
 struct OutputName
 {
@@ -45,27 +38,30 @@ void defineOptions(QCommandLineParser& parser)
         Words::tr("Says what the station will do with a growth program, and, compared with its\n"
                   "journal, what it did."));
     parser.addOptions({
-        {startName,
+        {OptionNames::start,
             Words::tr("A channel's temperature at the start, deg C, or \"none\" for one that the "
                       "panel shows none of. May be given for several channels."),
             QStringLiteral("cell=degc")},
-        {startAllName, Words::tr("The temperature of all others."), QStringLiteral("degc")},
-        {startJournalName, Words::tr("Takes them from the last minute that a journal tells."),
+        {OptionNames::startAll, Words::tr("The temperature of all others."), QStringLiteral("degc")},
+        {OptionNames::startJournal, Words::tr("Takes them from the last minute that a journal tells."),
             QStringLiteral("journal")},
-        {atName, Words::tr("When Run is pressed, such as 2026-11-22T08:00: clock times are told then."),
+        {OptionNames::at,
+            Words::tr("When Run is pressed, such as 2026-11-22T08:00: clock times are told then."),
             QStringLiteral("time")},
-        {holdName, Words::tr("How long the operator waits at each hold (0)."), QStringLiteral("seconds")},
-        {replyName, Words::tr("How long controllers take to reply (10)."), QStringLiteral("ms")},
-        {layersName, Words::tr("Adds what grows: nm/s a cell, a line each, such as \"Ga 0.28\"."),
+        {OptionNames::hold, Words::tr("How long the operator waits at each hold (0)."),
+            QStringLiteral("seconds")},
+        {OptionNames::reply, Words::tr("How long controllers take to reply (10)."), QStringLiteral("ms")},
+        {OptionNames::layers, Words::tr("Adds what grows: nm/s a cell, a line each, such as \"Ga 0.28\"."),
             QStringLiteral("rates")},
         {QStringLiteral("json"), Words::tr("Writes all of it for programs.")},
         {QStringLiteral("csv"), Words::tr("Writes the timeline as a table, an event a line.")},
         {QStringLiteral("vcd"), Words::tr("Writes shutters and set points for waveform viewers.")},
         {QStringLiteral("wire"), Words::tr("Writes the bytes that the instruments get, with their times.")},
-        {htmlName, Words::tr("Writes a page with a picture to this file."), QStringLiteral("file")},
-        {runName, Words::tr("compare: the run of the journal, counted from 1 (the last one that fits)."),
+        {OptionNames::html, Words::tr("Writes a page with a picture to this file."), QStringLiteral("file")},
+        {OptionNames::run,
+            Words::tr("compare: the run of the journal, counted from 1 (the last one that fits)."),
             QStringLiteral("n")},
-        {languageName, Words::tr("en or ja (the system's)."), QStringLiteral("language")},
+        {OptionNames::language, Words::tr("en or ja (the system's)."), QStringLiteral("language")},
         {QStringList({QStringLiteral("h"), QStringLiteral("help")}), Words::tr("Shows this and ends.")},
         {QStringList({QStringLiteral("v"), QStringLiteral("version")}),
             Words::tr("Shows the version and ends.")},
@@ -92,29 +88,30 @@ QString wrongValue(const QString& option, const QString& value, const QString& w
     return Words::tr("--%1 %2: %3 wanted").arg(option, quoted(value), wanted);
 }
 
-QString plainName(const QString& name)
+std::optional<double> readDegC(const QString& text)
 {
-    return name.toLower().remove(QLatin1Char(' '));
-}
-
-int channelNamed(const QString& name)
-{
-    for (int channel = 0; channel < Channels::count; ++channel) {
-        if (plainName(QLatin1String(Channels::list[channel].name)) == plainName(name)) {
-            return channel;
-        }
-    }
-    return -1;
+    const std::optional<double> degC = readNumber(text);
+    return degC && *degC >= lowestDegC && *degC <= highestDegC ? degC : std::nullopt;
 }
 
 QString readStart(const QString& value, Options& options)
 {
-    const int channel = channelNamed(value.section(QLatin1Char('='), 0, 0));
+    const QString name = value.section(QLatin1Char('='), 0, 0);
     const QString text = value.section(QLatin1Char('='), 1);
-    const std::optional<double> degC = readNumber(text);
+    if (text.isEmpty()) {
+        return wrongValue(
+            OptionNames::start, value, Words::tr("CELL=DEGC, such as Ga=850 or \"Main Ch=none\","));
+    }
+    const int channel = channelNamed(name);
+    if (channel < 0) {
+        return Words::tr("--%1 %2: no channel is called %3; these are: %4")
+            .arg(OptionNames::start, quoted(value), quoted(name), channelNames(Channels::count));
+    }
+    const std::optional<double> degC = readDegC(text);
     const bool isNone = text == QLatin1String("none");
-    if (channel < 0 || (!degC && !isNone)) {
-        return wrongValue(startName, value, Words::tr("CELL=DEGC, such as Ga=850 or \"Main Ch=none\","));
+    if (!degC && !isNone) {
+        return wrongValue(OptionNames::start, value,
+            Words::tr("a temperature from -999.9 to 9999.9, or \"none\", behind \"=\","));
     }
     Assumptions::Start& start = options.assumptions.starts.at(static_cast<size_t>(channel));
     start.kind = isNone ? Assumptions::Start::Kind::None : Assumptions::Start::Kind::Known;
@@ -124,9 +121,9 @@ QString readStart(const QString& value, Options& options)
 
 QString readStartAll(const QString& value, Options& options)
 {
-    const std::optional<double> degC = readNumber(value);
+    const std::optional<double> degC = readDegC(value);
     if (!degC) {
-        return wrongValue(startAllName, value, Words::tr("a temperature"));
+        return wrongValue(OptionNames::startAll, value, Words::tr("a temperature from -999.9 to 9999.9"));
     }
     options.assumptions.starts.fill({Assumptions::Start::Kind::Known, *degC});
     return {};
@@ -137,7 +134,7 @@ QString readAt(const QString& value, Options& options)
     options.assumptions.runAt = QDateTime::fromString(value, Qt::ISODate);
     return options.assumptions.runAt.isValid()
         ? QString()
-        : wrongValue(atName, value, Words::tr("a time such as 2026-11-22T08:00"));
+        : wrongValue(OptionNames::at, value, Words::tr("a time such as 2026-11-22T08:00"));
 }
 
 QString readHold(const QString& value, Options& options)
@@ -146,7 +143,7 @@ QString readHold(const QString& value, Options& options)
     options.assumptions.holdMs = qRound64(1000.0 * qBound(0.0, seconds, longestHoldSec));
     return seconds >= 0.0 && seconds <= longestHoldSec
         ? QString()
-        : wrongValue(holdName, value, Words::tr("seconds, not below 0,"));
+        : wrongValue(OptionNames::hold, value, Words::tr("seconds, not below 0,"));
 }
 
 QString readReply(const QString& value, Options& options)
@@ -155,7 +152,8 @@ QString readReply(const QString& value, Options& options)
     options.assumptions.replyMs = value.toInt(&isNumber);
     const bool isPossible
         = isNumber && options.assumptions.replyMs >= 0 && options.assumptions.replyMs <= longestReplyMs;
-    return isPossible ? QString() : wrongValue(replyName, value, Words::tr("a number from 0 to 3000"));
+    return isPossible ? QString()
+                      : wrongValue(OptionNames::reply, value, Words::tr("a number from 0 to 3000"));
 }
 
 QString readRun(const QString& value, Options& options)
@@ -163,14 +161,14 @@ QString readRun(const QString& value, Options& options)
     bool isNumber = false;
     options.run = value.toInt(&isNumber);
     return isNumber && options.run > 0 ? QString()
-                                       : wrongValue(runName, value, Words::tr("a number from 1 on"));
+                                       : wrongValue(OptionNames::run, value, Words::tr("a number from 1 on"));
 }
 
 QString readLanguage(const QString& value, Options& /*options*/)
 {
     return value == QLatin1String("en") || value == QLatin1String("ja")
         ? QString()
-        : wrongValue(languageName, value, Words::tr("en or ja"));
+        : wrongValue(OptionNames::language, value, Words::tr("en or ja"));
 }
 
 QString readValues(const QCommandLineParser& parser, Options& options)
@@ -178,13 +176,13 @@ QString readValues(const QCommandLineParser& parser, Options& options)
     using Reader = QString (*)(const QString&, Options&);
     // What is told of all channels comes before what is told of one.
     const QVector<QPair<QString, Reader>> readers = {
-        {startAllName, &readStartAll},
-        {atName, &readAt},
-        {holdName, &readHold},
-        {replyName, &readReply},
-        {runName, &readRun},
-        {languageName, &readLanguage},
-        {startName, &readStart},
+        {OptionNames::startAll, &readStartAll},
+        {OptionNames::at, &readAt},
+        {OptionNames::hold, &readHold},
+        {OptionNames::reply, &readReply},
+        {OptionNames::run, &readRun},
+        {OptionNames::language, &readLanguage},
+        {OptionNames::start, &readStart},
     };
     for (const auto& reader : readers) {
         for (const QString& value : parser.values(reader.first)) {
@@ -194,9 +192,14 @@ QString readValues(const QCommandLineParser& parser, Options& options)
             }
         }
     }
-    options.startJournal = parser.value(startJournalName);
-    options.rates = parser.value(layersName);
-    options.page = parser.value(htmlName);
+    options.startJournal = parser.value(OptionNames::startJournal);
+    options.rates = parser.value(OptionNames::layers);
+    options.page = parser.value(OptionNames::html);
+    for (const QString& name : {OptionNames::startJournal, OptionNames::layers, OptionNames::html}) {
+        if (parser.isSet(name) && parser.value(name).isEmpty()) {
+            return wrongValue(name, QString(), Words::tr("a file's name"));
+        }
+    }
     return {};
 }
 
@@ -279,6 +282,9 @@ CommandLine readCommandLine(const QStringList& arguments, bool isFromDesktop)
         }
     }
     result.error = readFiles(parser.positionalArguments(), options);
+    if (result.error.isEmpty()) {
+        result.error = idleOption(parser, options);
+    }
     if (result.error.isEmpty() && !options.page.isEmpty()) {
         result.error = checkPage(options);
     }
@@ -294,9 +300,9 @@ CommandLine readCommandLine(const QStringList& arguments, bool isFromDesktop)
 
 QString chosenLanguage(const QStringList& arguments)
 {
-    const int at = arguments.indexOf(QLatin1String("--") + languageName);
+    const int at = arguments.indexOf(QLatin1String("--") + OptionNames::language);
     const QString behind = at >= 0 && at + 1 < arguments.size() ? arguments[at + 1] : QString();
-    const QString prefix = QLatin1String("--") + languageName + QLatin1Char('=');
+    const QString prefix = QLatin1String("--") + OptionNames::language + QLatin1Char('=');
     const QStringList joined = arguments.filter(prefix);
     QString asked = joined.isEmpty() ? behind : joined.last().mid(prefix.size());
     if (!asked.isEmpty()) {

@@ -1,19 +1,27 @@
 #include "growthcheck/check/rowfindings.h"
 
+#include "base/compatibleform.h"
 #include "growthcheck/check/kinds.h"
 #include "growthcheck/check/words.h"
 #include "growthcheck/layers/elements.h"
 #include "program/player.h"
 #include "program/steprows.h"
 
-#include <QSet>
+#include <QHash>
 #include <QStringList>
+
+#include <algorithm>
 
 namespace GrowthCheck {
 
 namespace {
 
-constexpr int longestAlike = 64; // characters; longer names take too long to normalise
+// A group's name and the first row of the block that has it.
+struct NamedBlock
+{
+    QString name;
+    int first;
+};
 
 // Neighbouring rows of one group.
 struct Block
@@ -167,26 +175,26 @@ private:
                 Words::tr("%1 is a group's name like any other; no group is \"---NoGroup---\".")
                     .arg(quoted(group)));
         }
-        if (block.first > 0 && plainName(rows.group(block.first - 1)) == plain) {
+        QVector<NamedBlock>& before = blocksBefore[plain];
+        const auto isSame = [&group](const NamedBlock& other) { return other.name == group; };
+        const auto alike = std::find_if_not(before.rbegin(), before.rend(), isSame);
+        if (alike != before.rend()) {
             tell(Kinds::groupAlike, block.first,
-                Words::tr("The groups %1 and %2 look alike and are two.")
-                    .arg(quoted(rows.group(block.first - 1)), quoted(group)));
+                Words::tr("The group %1 looks like %2 of step %3 and is another one.")
+                    .arg(quoted(group), quoted(alike->name), QString::number(alike->first + 1)));
         }
-        if (names.contains(group)) {
+        if (std::any_of(before.begin(), before.end(), isSame)) {
             tell(Kinds::groupAgain, block.first,
                 Words::tr("The group %1 was there before: this is another one, repeated by itself.")
                     .arg(quoted(group)));
         }
-        names.insert(group);
+        before.append({group, block.first});
     }
 
     // Names with the same one look alike.
     static QString plainName(const QString& group)
     {
-        if (group.size() > longestAlike) {
-            return group;
-        }
-        return group.normalized(QString::NormalizationForm_KC).toCaseFolded();
+        return group.size() > longestCompatible ? group : compatibleForm(group).toCaseFolded();
     }
 
     void checkEnd()
@@ -222,7 +230,7 @@ private:
     const qint64 roundMs; // of the polling
     int used; // rows up to the last one that says something
     int end = 0; // the row whose time of 0 ends the program; that behind the table where there is none
-    QSet<QString> names;
+    QHash<QString, QVector<NamedBlock>> blocksBefore; // by their plain names
     Findings findings;
 };
 

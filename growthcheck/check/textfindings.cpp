@@ -2,6 +2,7 @@
 
 #include "base/number.h"
 #include "growthcheck/check/kinds.h"
+#include "growthcheck/check/likelynumber.h"
 #include "growthcheck/check/words.h"
 
 #include <algorithm>
@@ -11,22 +12,6 @@ namespace GrowthCheck {
 namespace {
 
 constexpr double highestDegC = 9999.9; // that fits the six characters of a set point
-constexpr int longestNumber = 64; // characters; longer texts take too long to normalise and are no numbers
-
-// The number that whoever wrote `text` may have meant: full-width digits, a decimal comma, a unit behind it.
-// Empty when there is none.
-QString likelyNumber(const QString& text)
-{
-    if (text.size() > longestNumber) {
-        return {};
-    }
-    QString plain
-        = text.normalized(QString::NormalizationForm_KC).replace(QLatin1Char(','), QLatin1Char('.'));
-    while (!plain.isEmpty() && !plain.back().isDigit()) {
-        plain.chop(1);
-    }
-    return readNumber(plain) ? plain : QString();
-}
 
 class TextCheck
 {
@@ -78,7 +63,7 @@ public:
         if (!degC) {
             tell(Kinds::setPointText,
                 Words::tr("The set point %1 is not a number and counts as 0: the channel is left alone.%2")
-                    .arg(quoted(text), advice(text)),
+                    .arg(quoted(text), likelyNumberHint(text)),
                 channel);
         } else if (*degC < 0.0) {
             tell(Kinds::setPointNegative,
@@ -115,7 +100,7 @@ public:
                 (isNotReached
                         ? Words::tr("The time %1 is not a number and counts as 0.%2")
                         : Words::tr("The time %1 is not a number and counts as 0: the program ends here.%2"))
-                    .arg(quoted(text), advice(text)));
+                    .arg(quoted(text), likelyNumberHint(text)));
         } else if (*timeSec != line.step.timeSec) {
             tell(Kinds::timeRounded,
                 Words::tr("The table keeps six digits of the time %1: it plays %2 s.")
@@ -134,18 +119,11 @@ public:
             tell(Kinds::timesText,
                 Words::tr("The repeat count %1 is not a whole number and counts as 0: a group that begins "
                           "here is played once.%2")
-                    .arg(quoted(text), isAdviceNumber ? advice(text) : QString()));
+                    .arg(quoted(text), isAdviceNumber ? likelyNumberHint(text) : QString()));
         }
     }
 
 private:
-    static QString advice(const QString& text)
-    {
-        const QString likely = likelyNumber(text);
-        return likely.isEmpty() || likely == text ? QString()
-                                                  : Words::tr(" Is it %1?").arg(shortened(likely));
-    }
-
     void tell(const Kind& kind, const QString& text, int channel = -1)
     {
         Finding finding;

@@ -4,6 +4,7 @@
 #include "growthcheck/check/rampfindings.h"
 #include "growthcheck/check/timetext.h"
 #include "growthcheck/check/words.h"
+#include "program/steprows.h"
 
 #include <QStringList>
 
@@ -24,6 +25,21 @@ void tell(Findings& findings, const Kind& kind, int row, const QString& text, in
     finding.channel = channel;
     finding.text = text;
     findings.append(finding);
+}
+
+// Why the total that the station shows is not the time that the program takes.
+QString whyTotalsDiffer(const Timeline& timeline)
+{
+    const PlannedStep& last = timeline.steps.constLast();
+    QStringList reasons{Words::tr("every step begins up to 10 ms late")};
+    if (timeline.holds > 0) {
+        reasons.append(Words::tr("waits at holds are not counted"));
+    }
+    if (last.row == programRows - 1 && last.plan.kind == StepPlan::Kind::Step) {
+        reasons.append(Words::tr("step %1 is played and not counted (%2 s)")
+                           .arg(QString::number(programRows), QString::number(last.plan.timeSec, 'g', 6)));
+    }
+    return reasons.join(QLatin1String("; "));
 }
 
 void checkLength(const Timeline& timeline, Findings& findings)
@@ -50,10 +66,8 @@ void checkLength(const Timeline& timeline, Findings& findings)
     const double playedSec = static_cast<double>(timeline.endMs) / 1000.0;
     if (std::abs(playedSec - timeline.shownTotalSec) >= worthTellingSec) {
         tell(findings, Kinds::totalTime, -1,
-            Words::tr("The station shows a total of %1 s and plays %2 s: every step begins up to 10 ms late, "
-                      "and waits at holds are not counted.")
-                .arg(timeline.shownTotalSec, 0, 'f', 1)
-                .arg(playedSec, 0, 'f', 1));
+            Words::tr("The station shows a total of %1 s and plays %2 s: %3.")
+                .arg(totalText(timeline.shownTotalSec), totalText(playedSec), whyTotalsDiffer(timeline)));
     }
 }
 

@@ -2,13 +2,16 @@
 
 #include "growthcheck/check/words.h"
 
+#include <cmath>
+
 namespace GrowthCheck {
 
 namespace {
 
 constexpr qint64 secPerDay = qint64{24} * 3600;
+constexpr double leastRoundedSec = 1e15; // more than is ever played
 
-}
+} // namespace
 
 QString elapsedText(qint64 ms)
 {
@@ -46,6 +49,14 @@ QString endText(const QDateTime& start, qint64 ms)
         return Words::tr("today, %1").arg(time);
     }
     return days == 1 ? Words::tr("tomorrow, %1").arg(time) : clockText(start, ms);
+}
+
+QString totalText(double sec)
+{
+    if (!std::isfinite(sec)) {
+        return Words::tr("more than 1e+308");
+    }
+    return sec < leastRoundedSec ? QString::number(sec, 'f', 1) : QString::number(sec, 'g', 6);
 }
 
 QString secondsText(qint64 ms)

@@ -18,6 +18,10 @@ QString clockText(const QDateTime& start, qint64 ms);
 /// The same for the end of something: "tomorrow, 06:13:07".
 QString endText(const QDateTime& start, qint64 ms);
 
+/// A length of time as the station shows it, in seconds with one decimal; in six digits where nobody reads
+/// more of them. `sec` may be infinite: a sum that is too large for any number.
+QString totalText(double sec);
+
 /// Seconds with three decimals, for programs.
 QString secondsText(qint64 ms);
 

@@ -110,8 +110,9 @@ Findings checkRates(const Timeline& timeline, const Rates& rates)
                 Finding finding;
                 finding.kind = Kinds::rateMissing;
                 finding.channel = shutter;
-                finding.text = Words::tr("The shutter opens, and the rates say nothing of its cell: what it "
-                                         "grows is missing from the layers.");
+                finding.text
+                    = Words::tr("The shutter opens, and its cell has no rate: what it grows is missing "
+                                "from the layers.");
                 addOnce(findings, finding);
             }
         }
@@ -121,7 +122,10 @@ Findings checkRates(const Timeline& timeline, const Rates& rates)
 
 QString nmText(double nm)
 {
-    return QString::number(nm, 'f', nm < 100.0 ? 2 : 1) + QLatin1String(" nm");
+    constexpr double leastRounded = 1e9;
+    const QString number
+        = nm < leastRounded ? QString::number(nm, 'f', nm < 100.0 ? 2 : 1) : QString::number(nm, 'g', 6);
+    return number + QLatin1String(" nm");
 }
 
 } // namespace GrowthCheck

@@ -48,7 +48,7 @@ LayerTable layersOf(const Timeline& timeline, const Rates& rates);
 /// What the rates leave open: group III cells that open without one.
 Findings checkRates(const Timeline& timeline, const Rates& rates);
 
-/// A thickness for a reader: "2.00 nm".
+/// A thickness for a reader: "2.00 nm"; in six digits from a metre on.
 QString nmText(double nm);
 
 } // namespace GrowthCheck

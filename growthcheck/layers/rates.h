@@ -15,8 +15,8 @@ struct Rates
     std::array<double, Channels::shutterCount> nmPerSec{};
 };
 
-/// Reads a file of lines "Ga 0.28": a cell's name and its rate, not below 0. "#" begins a remark. Gives what
-/// is wrong with it, empty when nothing is.
+/// Reads a file of lines "Ga 0.28": a cell's name and its rate, not below 0, each cell once. "#" begins a
+/// remark. Gives what is wrong with it, with the number of the line, empty when nothing is.
 QString readRates(const QString& fileName, Rates& rates);
 
 } // namespace GrowthCheck

@@ -50,7 +50,9 @@ QJsonObject stepObject(const CheckedProgram& checked, const PlannedStep& step)
             {"operatorWaits", step.holdsBefore}, {"open", shutterLetters(step.plan.shutters)}});
     const QDateTime& runAt = checked.assumptions.runAt;
     if (runAt.isValid()) {
-        object.insert(QStringLiteral("clock"), runAt.addMSecs(step.startMs).toString(Qt::ISODateWithMs));
+        // The toolkit's ISO form ends with the year 9999.
+        object.insert(QStringLiteral("clock"),
+            runAt.addMSecs(step.startMs).toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss.zzz")));
     }
     QJsonArray ramps;
     for (const PlannedRamp& ramp : step.ramps) {

@@ -43,8 +43,7 @@ QStringList summaryLines(const CheckedProgram& checked)
                      .arg(timeline.starts)
                      .arg(timeline.holds));
     lines.append(Words::tr("total shown: %1 s; plays: %2")
-                     .arg(QString::number(timeline.shownTotalSec, 'f', 1),
-                         elapsedText(timeline.endMs, timeline.holds)));
+                     .arg(totalText(timeline.shownTotalSec), elapsedText(timeline.endMs, timeline.holds)));
     const QDateTime& runAt = checked.assumptions.runAt;
     if (runAt.isValid()) {
         lines.append(Words::tr("Run at %1; ends %2").arg(dateAndTime(runAt), endText(runAt, timeline.endMs)));

@@ -97,7 +97,7 @@ private:
             const QDateTime then = runAt.addMSecs(ms);
             if (then.date() != day) {
                 day = then.date();
-                text += QStringLiteral("  %1\n").arg(day.toString(Qt::ISODate));
+                text += QStringLiteral("  %1\n").arg(day.toString(QStringLiteral("yyyy-MM-dd")));
             }
             text += QLatin1String("  ") + padded(then.toString(QStringLiteral("HH:mm:ss")), clockColumns);
         } else {
@@ -135,13 +135,12 @@ QString layerLine(const LayerBlock& block, const Layer& layer)
 {
     const QString step = rightAligned(QString::number(layer.row + 1), 5);
     const QString passes = block.passes > 1 ? QStringLiteral("%1 x").arg(block.passes) : QString();
-    QString line = step + QLatin1Char(' ') + rightAligned(passes, 8) + QLatin1Char(' ') + layer.shutters
-        + QLatin1Char(' ') + rightAligned(secondsText(layer.timeMs), 12) + QLatin1String("  ")
-        + padded(layer.material, 22) + rightAligned(layer.nm > 0.0 ? nmText(layer.nm) : QString(), 10);
-    while (line.endsWith(QLatin1Char(' '))) {
-        line.chop(1);
-    }
-    line += QLatin1Char('\n');
+    const QString head = step + QLatin1Char(' ') + rightAligned(passes, 8) + QLatin1Char(' ');
+    const QString line = wrapped(head,
+        layer.shutters + QLatin1Char(' ') + rightAligned(secondsText(layer.timeMs), 12) + QLatin1String("  ")
+            + padded(layer.material, 21) + QLatin1Char(' ')
+            + rightAligned(layer.nm > 0.0 ? nmText(layer.nm) : QString(), 10),
+        layerIndent);
     return layer.isHold ? line + wrapped(QString(), Words::tr("+ operator"), layerIndent) : line;
 }
 

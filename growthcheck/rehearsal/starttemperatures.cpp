@@ -5,6 +5,7 @@
 #include "journal/journalline.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QStringList>
 
 namespace GrowthCheck {
@@ -34,8 +35,9 @@ QStringList lastMeasured(QFile& journal)
 QString startFromJournal(const QString& fileName, Assumptions& assumptions)
 {
     QFile journal(fileName);
-    if (!journal.open(QIODevice::ReadOnly)) {
-        return journal.errorString();
+    // Anything but a plain file (a device, a pipe) might never end.
+    if (!QFileInfo(fileName).isFile() || !journal.open(QIODevice::ReadOnly)) {
+        return Words::tr("it is missing, no plain file, or not to be opened");
     }
     const QStringList measured = lastMeasured(journal);
     if (measured.size() != Channels::count) {

@@ -136,10 +136,6 @@ journal, what it did.</source>
         <translation>Ga=850 や &quot;Main Ch=none&quot; のような CELL=DEGC </translation>
     </message>
     <message>
-        <source>a temperature</source>
-        <translation>温度</translation>
-    </message>
-    <message>
         <source>a time such as 2026-11-22T08:00</source>
         <translation>2026-11-22T08:00 のような時刻</translation>
     </message>
@@ -308,10 +304,6 @@ journal, what it did.</source>
         <translation>%1 は普通のグループ名です。グループなしは &quot;---NoGroup---&quot; です。</translation>
     </message>
     <message>
-        <source>The groups %1 and %2 look alike and are two.</source>
-        <translation>グループ %1 と %2 は似ていますが別のものです。</translation>
-    </message>
-    <message>
         <source>The group %1 was there before: this is another one, repeated by itself.</source>
         <translation>グループ %1 は前にもあります。これは別のグループで、別に繰り返されます。</translation>
     </message>
@@ -382,10 +374,6 @@ journal, what it did.</source>
     <message>
         <source>The check stops here, after %1: more than 20,000 different steps or 50,000 set points. What follows is not looked at.</source>
         <translation>%1 で打ち切ります。異なるステップが 20,000、または設定値が 50,000 を超えます。以降は見ていません。</translation>
-    </message>
-    <message>
-        <source>The station shows a total of %1 s and plays %2 s: every step begins up to 10 ms late, and waits at holds are not counted.</source>
-        <translation>操作盤の総時間は %1 秒、実際は %2 秒です。各ステップは最大 10 ms 遅れ、待機点の待ちは数えません。</translation>
     </message>
     <message>
         <source>The program ends with open shutters, and the station leaves them so: %1.</source>
@@ -570,18 +558,6 @@ journal, what it did.</source>
     <message>
         <source>it tells of %1 runs</source>
         <translation>実行は %1 回です</translation>
-    </message>
-    <message>
-        <source>The shutter opens, and the rates say nothing of its cell: what it grows is missing from the layers.</source>
-        <translation>シャッターが開きますが、セルの成長速度がありません。その分は層に入っていません。</translation>
-    </message>
-    <message>
-        <source>%1 is not a source cell</source>
-        <translation>%1 は原料セルではありません</translation>
-    </message>
-    <message>
-        <source>a rate from 0 to 1000 nm/s is wanted behind %1</source>
-        <translation>%1 の後に 0～1000 nm/s の速度が必要です</translation>
     </message>
     <message>
         <source>line %1: %2</source>
@@ -907,6 +883,94 @@ journal, what it did.</source>
     <message>
         <source>no line tells the temperatures of all channels</source>
         <translation>全チャネルの温度の行がありません</translation>
+    </message>
+    <message>
+        <source>--%1 is given twice</source>
+        <translation>--%1 が二度指定されています</translation>
+    </message>
+    <message>
+        <source>--%1 does nothing with %2</source>
+        <translation>--%1 は %2 とともには働きません</translation>
+    </message>
+    <message>
+        <source>--layers does nothing with compare but for --html</source>
+        <translation>compare の --layers は --html のときだけ働きます</translation>
+    </message>
+    <message>
+        <source>--run does nothing without compare</source>
+        <translation>--run は compare のときだけ働きます</translation>
+    </message>
+    <message>
+        <source>--%1 %2: no channel is called %3; these are: %4</source>
+        <translation>--%1 %2: %3 というチャネルはありません。あるのは: %4</translation>
+    </message>
+    <message>
+        <source>a temperature from -999.9 to 9999.9, or &quot;none&quot;, behind &quot;=&quot;,</source>
+        <translation>&quot;=&quot; の後に -999.9 から 9999.9 までの温度か &quot;none&quot; </translation>
+    </message>
+    <message>
+        <source>a temperature from -999.9 to 9999.9</source>
+        <translation>-999.9 から 9999.9 までの温度</translation>
+    </message>
+    <message>
+        <source>a file&apos;s name</source>
+        <translation>ファイル名</translation>
+    </message>
+    <message>
+        <source>The group %1 looks like %2 of step %3 and is another one.</source>
+        <translation>グループ %1 はステップ %3 の %2 に似ていますが別のものです。</translation>
+    </message>
+    <message>
+        <source>every step begins up to 10 ms late</source>
+        <translation>各ステップは最大 10 ms 遅れます</translation>
+    </message>
+    <message>
+        <source>waits at holds are not counted</source>
+        <translation>待機点の待ちは数えません</translation>
+    </message>
+    <message>
+        <source>step %1 is played and not counted (%2 s)</source>
+        <translation>ステップ %1 は実行されますが数えません（%2 秒）</translation>
+    </message>
+    <message>
+        <source>The station shows a total of %1 s and plays %2 s: %3.</source>
+        <translation>操作盤の総時間は %1 秒、実際は %2 秒です（%3）。</translation>
+    </message>
+    <message>
+        <source>more than 1e+308</source>
+        <translation>1e+308 以上</translation>
+    </message>
+    <message>
+        <source>The shutter opens, and its cell has no rate: what it grows is missing from the layers.</source>
+        <translation>シャッターが開きますが、セルの成長速度がありません。その分は層に入っていません。</translation>
+    </message>
+    <message>
+        <source>it has more than 1,000 characters</source>
+        <translation>1,000 文字を超えます</translation>
+    </message>
+    <message>
+        <source>some characters cannot be read; save the file as UTF-8</source>
+        <translation>読めない文字があります。UTF-8 で保存してください</translation>
+    </message>
+    <message>
+        <source>%1 is not a source cell; these are: %2</source>
+        <translation>%1 は原料セルではありません。あるのは: %2</translation>
+    </message>
+    <message>
+        <source>%1 has its rate in line %2 already</source>
+        <translation>%1 の速度はすでに %2 行目にあります</translation>
+    </message>
+    <message>
+        <source>behind %1 stands one rate, and nothing else but a remark (#)</source>
+        <translation>%1 の後に書けるのは速度一つと注釈 (#) だけです</translation>
+    </message>
+    <message>
+        <source>the rate of %1 is %2, where a number from 0 to 1000 nm/s is wanted.%3</source>
+        <translation>%1 の速度が %2 です。0～1000 nm/s の数が必要です。%3</translation>
+    </message>
+    <message>
+        <source>it is larger than 64 KiB</source>
+        <translation>64 KiB を超えています</translation>
     </message>
 </context>
 </TS>

@@ -1,8 +1,22 @@
 #include "base/numberentry.h"
 
+#include "base/compatibleform.h"
+
 #include <QLineEdit>
 
 namespace {
+
+QString withoutSpace(const QString& text)
+{
+    QString dense;
+    dense.reserve(text.size());
+    for (const QChar character : text) {
+        if (!character.isSpace()) {
+            dense.append(character);
+        }
+    }
+    return dense;
+}
 
 void makePlain(QLineEdit& entry)
 {
@@ -20,13 +34,9 @@ void makePlain(QLineEdit& entry)
 
 QString plainNumberText(const QString& text)
 {
-    QString plain;
-    for (const QChar character : text.normalized(QString::NormalizationForm_KC)) {
-        if (!character.isSpace()) {
-            plain.append(character);
-        }
-    }
-    return plain;
+    // A number may be pasted with more blanks around it than a number has characters.
+    const QString shortest = text.size() > longestCompatible ? withoutSpace(text) : text;
+    return withoutSpace(compatibleForm(shortest));
 }
 
 void makeNumberEntry(QLineEdit& entry)

@@ -2,9 +2,12 @@
 
 #include "base/numberentry.h"
 
+#include "base/compatibleform.h"
+
 #include "support/testmain.h"
 
 #include <QClipboard>
+#include <QElapsedTimer>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -63,6 +66,28 @@ private slots:
         QFETCH(QString, plain);
         QCOMPARE(plainNumberText(text), plain);
         QCOMPARE(plainNumberText(plain), plain);
+    }
+
+    void textsThatAreTooLongForANumberStay()
+    {
+        const QString longest = "９"_s.repeated(longestCompatible);
+        QCOMPARE(plainNumberText(longest), "9"_s.repeated(longestCompatible));
+        QCOMPARE(plainNumberText(longest + "９"_s), longest + "９"_s);
+        QCOMPARE(plainNumberText(" "_s.repeated(longestCompatible) + "８５０\n"_s), "850"_s);
+    }
+
+    // Marks that combine take a time that grows with the square of their number where all are put in order.
+    void longTextsTakeNoTime()
+    {
+        constexpr int largestFile = 16 * 1024 * 1024;
+        const QString marks = "\u0301\u0316"_s;
+        QElapsedTimer timer;
+        timer.start();
+        QGuiApplication::clipboard()->setText(marks.repeated(entry->maxLength() / 2));
+        entry->paste();
+        QVERIFY2(timer.elapsed() < 1000, qPrintable("%1 ms"_s.arg(timer.elapsed())));
+        QCOMPARE(plainNumberText(marks.repeated(largestFile / 2)).size(), largestFile);
+        QVERIFY2(timer.elapsed() < 10000, qPrintable("%1 ms"_s.arg(timer.elapsed())));
     }
 
     void typedTextIsMadePlainAtOnce()

@@ -66,6 +66,14 @@ private slots:
         add("no reply", {"--reply"_s, "3001"_s, "clean.dat"_s}, 64);
         add("no language", {"--language"_s, "fr"_s, "clean.dat"_s}, 64);
         add("no run", {"compare"_s, "--run"_s, "0"_s, "clean.dat"_s, "journal"_s}, 64);
+        add("rates that are none", {"--layers"_s, "clean.dat"_s, "clean.dat"_s}, 2);
+        add("a journal of the start without end", {"--start-from-journal"_s, "/dev/zero"_s, "clean.dat"_s},
+            2);
+        add("too hot", {"--start"_s, "Ga=1e300"_s, "clean.dat"_s}, 64);
+        add("all too cold", {"--start-all"_s, "-1000"_s, "clean.dat"_s}, 64);
+        add("no name of a page", {"--html="_s, "clean.dat"_s}, 64);
+        add("no name of rates", {"--layers="_s, "clean.dat"_s}, 64);
+        add("no name of a journal", {"--start-from-journal="_s, "clean.dat"_s}, 64);
         add("compare with nothing", {"compare"_s, "clean.dat"_s}, 64);
     }
 

@@ -7,6 +7,7 @@
 #include "growthcheck/rehearsal/playedsteps.h"
 #include "growthcheck/rehearsal/rehearsal.h"
 #include "growthcheck/support/checkrun.h"
+#include "growthcheck/support/programtext.h"
 #include "growthcheck/support/randomprogram.h"
 #include "program/programfile.h"
 #include "shutter/shuttercommand.h"
@@ -19,6 +20,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QMap>
+#include <QRegularExpression>
 #include <QTextStream>
 
 using namespace TestText;
@@ -127,6 +129,55 @@ private slots:
         for (const QString& line : run.lines()) {
             QVERIFY2(line.size() <= 80, qPrintable(line));
         }
+    }
+
+    void hugeNumbersAreReadable_data()
+    {
+        QTest::addColumn<QStringList>("program");
+        QTest::newRow("a total of 301 digits") << QStringList{"t=1e300 open=Ga,As4"_s};
+        QTest::newRow("a time of 301 digits") << QStringList{"t=1"_s + "0"_s.repeated(300)};
+        QTest::newRow("a total that is no number")
+            << QStringList{"t=1.7e308 open=Ga"_s, "t=1.7e308"_s, "t=1.7e308"_s};
+        QTest::newRow("repeats that are no number") << QStringList{"t=1e300 open=Ga g=A x=2147483647"_s};
+        QTest::newRow("thick layers") << QStringList{"t=-1"_s, "t=1e13 open=Be,Ga,Si,As4,Al,In"_s,
+            "t=9 g=A x=2147483647 open=Be,Ga,Si,As4,Al,In"_s, "t=9 g=A open=Ga"_s, "t=-1 open=Ga"_s, "t=9"_s};
+        QTest::newRow("steps to the end of time") << QStringList{
+            "t=-1"_s, "t=3.1e13 open=Be,Ga,Si,As4,Al,In"_s, "t=9 open=Ga g=A x=2000000000"_s, "t=1e13"_s};
+        QTest::newRow("a set point of 301 digits") << QStringList{"t=1e13 Ga=1e300"_s, "t=9 Si=1e300"_s};
+    }
+
+    void hugeNumbersAreReadable()
+    {
+        QFETCH(QStringList, program);
+        putFile("huge.dat"_s, programText(program));
+        putFile("fast.txt"_s, "Ga 1000\nAl 999\nIn 998\n");
+        const QStringList options{"--at"_s, "2026-11-22T08:00"_s, "--layers"_s, "fast.txt"_s};
+        for (const char* language : {"en", "ja"}) {
+            const CheckRun run
+                = runCheck(options + QStringList{"--language"_s, QLatin1String(language), "huge.dat"_s});
+            for (const QString& line : run.lines()) {
+                QVERIFY2(GrowthCheck::columnsOf(line) <= 80, qPrintable(line));
+                QVERIFY2(!line.contains(QRegularExpression("\\b(inf|nan)\\b|^ +$"_s)), qPrintable(line));
+                QVERIFY2(!line.contains(QRegularExpression("Be,Si\\d"_s)), qPrintable(line));
+            }
+        }
+        QJsonParseError error;
+        const QByteArray json = runCheck(options + QStringList{"--json"_s, "huge.dat"_s}).out;
+        QJsonDocument::fromJson(json, &error);
+        QCOMPARE(error.errorString(), QJsonParseError().errorString());
+        QVERIFY(!json.contains("\"clock\":\"\""));
+    }
+
+    void aTotalThatIsNoNumberIsNull()
+    {
+        const auto shownTotal = [](const QStringList& program) -> QJsonValue {
+            putFile("huge.dat"_s, programText(program));
+            const QJsonObject document
+                = QJsonDocument::fromJson(runCheck({"--json"_s, "huge.dat"_s}).out).object();
+            return document["programs"_s].toArray()[0].toObject()["shownTotalSec"_s];
+        };
+        QCOMPARE(shownTotal({"t=1e300"_s}).toDouble(), 1e300);
+        QVERIFY(shownTotal({"t=1.7e308"_s, "t=1.7e308"_s, "t=1"_s}).isNull());
     }
 
     void aDumpHoldsEveryStep()

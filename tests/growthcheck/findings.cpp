@@ -108,6 +108,9 @@ const QVector<Case>& cases()
         {"a group again", {"t=10 g=A x=2"_s, "t=10 g=B x=2"_s, "t=10 g=A x=2"_s}, {"group-again step 3"_s}},
         {"groups that look alike", {"t=10 g=A x=2"_s, "t=10 g=a x=2"_s, "t=10 g=Ａ x=2"_s},
             {"group-alike step 2"_s, "group-alike step 3"_s}},
+        {"groups that look alike, far apart",
+            {"t=10 g=A x=2"_s, "t=10 g=B x=2"_s, "t=10"_s, "t=10 g=a x=2"_s, "t=10 g=B x=2"_s, "t=10 g=A"_s},
+            {"group-alike step 4"_s, "group-alike step 6"_s, "group-again step 5"_s, "group-again step 6"_s}},
         {"long names that look alike", {"t=10 x=2 g="_s + many("A", 64), "t=10 x=2 g="_s + many("a", 64)},
             {"group-alike step 2"_s}},
         {"too long names to look alike", {"t=10 x=2 g="_s + many("A", 65), "t=10 x=2 g="_s + many("a", 65)},
@@ -164,15 +167,33 @@ class FindingsTest : public QObject
 {
     Q_OBJECT
 
-    static QStringList findingsOf(const QStringList& program, const std::optional<GrowthCheck::Rates>& rates)
+    static GrowthCheck::Findings found(
+        const QStringList& program, const std::optional<GrowthCheck::Rates>& rates = std::nullopt)
     {
         putFile("program.dat"_s, programText(program));
-        QStringList texts;
         const auto loaded = GrowthCheck::loadProgram("program.dat"_s);
-        for (const Finding& finding : GrowthCheck::checkProgram(*loaded, starts(), rates).findings) {
+        return GrowthCheck::checkProgram(*loaded, starts(), rates).findings;
+    }
+
+    static QStringList findingsOf(const QStringList& program, const std::optional<GrowthCheck::Rates>& rates)
+    {
+        QStringList texts;
+        for (const Finding& finding : found(program, rates)) {
             texts.append(placed(finding));
         }
         return texts;
+    }
+
+    // The sentences of all findings of a kind.
+    static QString sentences(const QStringList& program, const char* id)
+    {
+        QStringList texts;
+        for (const Finding& finding : found(program)) {
+            if (QLatin1String(finding.kind.id) == QLatin1String(id)) {
+                texts.append(finding.text);
+            }
+        }
+        return texts.join(u' ');
     }
 
 private slots:
@@ -190,6 +211,39 @@ private slots:
         QFETCH(QStringList, program);
         QFETCH(QStringList, findings);
         QCOMPARE(findingsOf(program, std::nullopt).join("; "_s), findings.join("; "_s));
+    }
+
+    void aTotalSaysWhyItIsNotTheTime_data()
+    {
+        QTest::addColumn<QStringList>("program");
+        QTest::addColumn<QString>("why");
+        const QString late = "every step begins up to 10 ms late"_s;
+        const QString waits = "; waits at holds are not counted"_s;
+        const QString last = "; step 200 is played and not counted (7.5 s)"_s;
+        const QStringList most = rows(199, "t=10");
+        QTest::newRow("many steps") << most << late;
+        QTest::newRow("a hold") << QStringList({"t=-1"_s}) + rows(120, "t=10") << late + waits;
+        QTest::newRow("row 200") << most + QStringList({"t=7.5"_s}) << late + last;
+        QTest::newRow("row 200 in a group")
+            << rows(199, "t=10 g=A x=3") + QStringList({"t=7.5 g=A"_s}) << late + last;
+        QTest::newRow("row 200 and a hold")
+            << rows(198, "t=10") + QStringList({"t=-1"_s, "t=7.5"_s}) << late + waits + last;
+        QTest::newRow("row 200 holds") << most + QStringList({"t=-1"_s}) << late + waits;
+        QTest::newRow("row 200 is not reached")
+            << rows(198, "t=10") + QStringList({"t=0"_s, "t=7.5"_s}) << late;
+    }
+
+    void aTotalSaysWhyItIsNotTheTime()
+    {
+        QFETCH(QStringList, program);
+        QFETCH(QString, why);
+        QCOMPARE(sentences(program, "total-time").section(u':', 1), u' ' + why + u'.');
+    }
+
+    void groupsThatLookAlikeAreNamed()
+    {
+        QCOMPARE(sentences({"t=10 g=A"_s, "t=10 g=B"_s, "t=10 g=Ａ"_s}, "group-alike"),
+            "The group \"Ａ\" looks like \"A\" of step 1 and is another one."_s);
     }
 
     // Marks that combine take a time that grows with the square of their number where all are put in order.

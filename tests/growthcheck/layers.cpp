@@ -127,6 +127,16 @@ private slots:
         QTest::newRow("too much") << QByteArray("\nGa 0.1 0.2\n");
         QTest::newRow("below zero") << QByteArray("\nGa -1\n");
         QTest::newRow("a micrometre a second") << QByteArray("\nGa 1001\n");
+        QTest::newRow("infinite") << QByteArray("\nGa inf\n");
+        QTest::newRow("not a number") << QByteArray("\nGa nan\n");
+        QTest::newRow("too large for a number") << QByteArray("\nGa 1e999\n");
+        QTest::newRow("full-width digits") << QByteArray("\nGa ０．２８\n");
+        QTest::newRow("a unit") << QByteArray("\nGa 0.28nm/s\n");
+        QTest::newRow("twice") << QByteArray("Ga 0.1\nGa 0.1\n");
+        QTest::newRow("twice in other letters") << QByteArray("Ga 0.1\nga 0.2\n");
+        QTest::newRow("a long line") << "\n# " + QByteArray(999, 'x') + '\n';
+        QTest::newRow("another encoding") << QByteArray("Ga 0.1\n# \x90\xac\x92\xb7\n");
+        QTest::newRow("zeros") << QByteArray("\nA\0l 0.1\n", 9);
     }
 
     void whatIsWrongWithRatesIsTold()
@@ -138,10 +148,61 @@ private slots:
         QVERIFY2(wrong.startsWith("line 2: "_s), qPrintable(wrong));
     }
 
+    void aWrongRateIsNamed_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("wrong");
+        const QString wanted = "where a number from 0 to 1000 nm/s is wanted."_s;
+        QTest::newRow("no cell") << QByteArray("Xe 1")
+                                 << "\"Xe\" is not a source cell; these are: Be, Ga, Si, As4, Al, In, As7"_s;
+        QTest::newRow("twice") << QByteArray("Ga 1\n\nGa 2") << "Ga has its rate in line 1 already"_s;
+        QTest::newRow("a comma") << QByteArray("Ga 0,28")
+                                 << "the rate of Ga is \"0,28\", "_s + wanted + " Is it 0.28?"_s;
+        QTest::newRow("full-width digits")
+            << QByteArray("Ga ０．２８") << "the rate of Ga is \"０．２８\", "_s + wanted + " Is it 0.28?"_s;
+        QTest::newRow("below zero") << QByteArray("Ga -1") << "the rate of Ga is \"-1\", "_s + wanted;
+        QTest::newRow("no rate") << QByteArray("Ga # 0.1")
+                                 << "behind Ga stands one rate, and nothing else but a remark (#)"_s;
+    }
+
+    void aWrongRateIsNamed()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, wrong);
+        putFile("RATES.txt"_s, text);
+        Rates rates;
+        QCOMPARE(readRates("RATES.txt"_s, rates).section(": "_s, 1), wrong);
+    }
+
+    void ratesAreReadAsEditorsWriteThem()
+    {
+        putFile("RATES.txt"_s, "\xEF\xBB\xBFga 0.28 # nm/s\r\n\r\n　Ａｌ　0.12\r\n# " + QByteArray(998, 'x'));
+        Rates rates;
+        QCOMPARE(readRates("RATES.txt"_s, rates), QString());
+        QCOMPARE(rates.nmPerSec[1], 0.28);
+        QCOMPARE(rates.nmPerSec[4], 0.12);
+    }
+
+    // A file that is cut could end within a number.
+    void aLargeFileIsRefused()
+    {
+        const QByteArray remark = '#' + QByteArray(62, 'x') + '\n';
+        const QByteArray rate("Ga 0.28\n");
+        const QByteArray most = remark.repeated(1023) + QByteArray(64 - rate.size(), '\n') + rate;
+        Rates rates;
+        putFile("RATES.txt"_s, most);
+        QCOMPARE(readRates("RATES.txt"_s, rates), QString());
+        QCOMPARE(rates.nmPerSec[1], 0.28);
+        putFile("RATES.txt"_s, '\n' + most);
+        QCOMPARE(readRates("RATES.txt"_s, rates), "it is larger than 64 KiB"_s);
+    }
+
     void noFileIsNoRates()
     {
         Rates rates;
-        QVERIFY(!readRates("absent.txt"_s, rates).isEmpty());
+        for (const char* name : {"absent.txt", ".", "/dev/zero"}) {
+            QVERIFY2(readRates(QLatin1String(name), rates).startsWith("it is missing"_s), name);
+        }
     }
 };
 
