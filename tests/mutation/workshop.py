@@ -8,6 +8,7 @@ import shutil
 import signal
 import subprocess
 
+ENDLESS = "did not end"
 FAILURE = re.compile(r"^FAIL!  : (\w+::(\w+)\(.*?\))", re.MULTILINE)
 
 
@@ -32,7 +33,7 @@ class Test:
         try:
             code, output = run([self.program] + list(functions), self.folder, self.timeout, self.environment)
         except subprocess.TimeoutExpired:
-            return "did not end"
+            return ENDLESS
         failure = FAILURE.search(output)
         if failure:
             return failure[1]
@@ -41,8 +42,11 @@ class Test:
         return "an unexpected warning" if any(text.search(output) for text in self.warnings) else ""
 
     def fails(self):
-        """As run(); a failure has to come again, so that a test that is late on a busy machine is none."""
+        """As run(); a failure has to come again, so that a test that is late on a busy machine is none. One that used up
+        its time was not just late."""
         first = self.run()
+        if first == ENDLESS:
+            return first
         function = re.match(r"\w+::(\w+)\(", first)
         own = [function[1]] if function and function[1] not in ("initTestCase", "cleanupTestCase") else []
         return self.run(own) and first
