@@ -97,6 +97,17 @@ private slots:
         QCOMPARE(timeline.shownTotalSec, 3.014);
     }
 
+    void groupsThatLookAlikeAreTwo()
+    {
+        const Timeline timeline = timelineOf({"t=1 g=A x=2"_s, "t=1 g=a x=2"_s});
+        QVector<int> rows;
+        GrowthCheck::playSteps(timeline, [&rows](const GrowthCheck::PlayedStep& step) {
+            rows.append(step.planned.row);
+            return true;
+        });
+        QCOMPARE(rows, (QVector<int>{0, 0, 1, 1}));
+    }
+
     void aHoldWaitsForTheOperator()
     {
         Assumptions assumptions = allAt(20.0);
