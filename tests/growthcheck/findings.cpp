@@ -67,12 +67,6 @@ QString placed(const Finding& finding)
     return finding.count > 1 ? text + " x %1"_s.arg(finding.count) : text;
 }
 
-// Programs are files in the system's encoding.
-bool canBeWritten(const QString& text)
-{
-    return QString::fromLocal8Bit(text.toLocal8Bit()) == text;
-}
-
 const QVector<Case>& cases()
 {
     static const QVector<Case> all{
