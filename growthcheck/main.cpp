@@ -1,28 +1,29 @@
 #include "growthcheck/app/desktop.h"
 #include "growthcheck/app/session.h"
+#include "growthcheck/app/terminal.h"
 
 #include <QCoreApplication>
-
-#include <cstdio>
-
-namespace {
-
-void writeOut(const QByteArray& utf8)
-{
-    std::fwrite(utf8.constData(), 1, static_cast<size_t>(utf8.size()), stdout);
-}
-
-void complain(const QString& line)
-{
-    std::fprintf(stderr, "growthcheck: %s\n", line.toLocal8Bit().constData());
-}
-
-} // namespace
 
 int main(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("growthcheck"));
-    return GrowthCheck::runCommandLine(
-        QCoreApplication::arguments(), GrowthCheck::isStartedByDesktop(), {&writeOut, &complain});
+    const bool isFromDesktop = GrowthCheck::isStartedByDesktop();
+    bool hasSpoken = false;
+    const GrowthCheck::Outlets outlets{
+        [&hasSpoken](const QByteArray& utf8) {
+            hasSpoken = true;
+            GrowthCheck::writeOut(utf8);
+        },
+        [&hasSpoken](const QString& line) {
+            hasSpoken = true;
+            GrowthCheck::complain(line);
+        },
+    };
+    const GrowthCheck::ExitStatus status
+        = GrowthCheck::runCommandLine(QCoreApplication::arguments(), isFromDesktop, outlets);
+    if (isFromDesktop && hasSpoken) {
+        GrowthCheck::waitForReader();
+    }
+    return status;
 }

@@ -70,6 +70,8 @@ Function ${PREFIX}stopWhileAnyRuns
   Call ${PREFIX}stopWhileRunning
   Push "chambersim.exe"
   Call ${PREFIX}stopWhileRunning
+  Push "growthcheck.exe"
+  Call ${PREFIX}stopWhileRunning
 FunctionEnd
 !macroend
 !insertmacro STOP_WHILE_RUNNING ""

@@ -6,9 +6,11 @@
 
 namespace {
 
+constexpr char variable[] = "NELVO_ADAPTER";
+
 QString addressInEnvironment()
 {
-    return qEnvironmentVariable("NELVO_ADAPTER");
+    return qEnvironmentVariable(variable);
 }
 
 } // namespace
@@ -25,5 +27,7 @@ QString adapterAddress()
 
 QString adapterMistake()
 {
-    return addressInEnvironment().isEmpty() ? readAdapterFile(adapterFileName()).mistake : QString();
+    const QString host = addressInEnvironment();
+    return host.isEmpty() ? readAdapterFile(adapterFileName()).mistake
+                          : hostMistake(QLatin1String(variable), host);
 }

@@ -27,6 +27,12 @@ bool isHost(const QString& text)
 
 } // namespace
 
+QString hostMistake(const QString& place, const QString& text)
+{
+    return isHost(text) ? QString()
+                        : Texts::tr("%1: \"%2\" is no host name and no IPv4 address.").arg(place, text);
+}
+
 QString adapterFileName()
 {
     return QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("nelvo.ini"));
@@ -59,8 +65,9 @@ AdapterFile readAdapterFile(const QString& fileName)
                 Texts::tr("%1: \"%2\" is not understood. The one line there may be is \"adapter=HOST\".")
                     .arg(shownName, line)};
         }
-        if (!isHost(value)) {
-            return {{}, Texts::tr("%1: \"%2\" is no host name and no IPv4 address.").arg(shownName, value)};
+        const QString mistake = hostMistake(shownName, value);
+        if (!mistake.isEmpty()) {
+            return {{}, mistake};
         }
         found.host = value;
     }

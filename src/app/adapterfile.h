@@ -10,6 +10,10 @@ struct AdapterFile
     QString mistake; ///< a sentence for the operator when the file says anything else; there is no host then
 };
 
+/// A sentence for the operator when `text`, which stands in `place`, is neither a host name nor an IPv4
+/// address; else empty.
+QString hostMistake(const QString& place, const QString& text);
+
 /// Where the file of the running program lies.
 QString adapterFileName();
 

@@ -33,6 +33,16 @@ private slots:
         QCOMPARE(adapterAddress(), "rig2.lab"_s);
     }
 
+    void aVariableThatIsNoHostIsAMistake()
+    {
+        qputenv("NELVO_ADAPTER", "rig2.lab");
+        QCOMPARE(adapterMistake(), QString());
+        for (const char* text : {"192.0.2.300", "rig 2", "127.0.0.1 ", "192.0.2.10:1234"}) {
+            qputenv("NELVO_ADAPTER", text);
+            QVERIFY2(adapterMistake().contains("NELVO_ADAPTER: \"%1\""_s.arg(QLatin1String(text))), text);
+        }
+    }
+
     void portIsFixed() { QCOMPARE(adapterPort, 1234); }
 };
 

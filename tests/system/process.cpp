@@ -32,6 +32,11 @@ QString chambersimProgram()
     return tested(QStringLiteral(CHAMBERSIM_PROGRAM));
 }
 
+QString growthcheckProgram()
+{
+    return tested(QStringLiteral(GROWTHCHECK_PROGRAM));
+}
+
 QString nelvoProgram()
 {
     return tested(QStringLiteral(NELVO_PROGRAM));

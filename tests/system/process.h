@@ -9,6 +9,7 @@
 /// The programs of the build or, where the environment variable NELVO_TEST_PROGRAMS names a folder, those in
 /// it: what is packed or installed is tested by the same tests.
 QString chambersimProgram();
+QString growthcheckProgram();
 QString nelvoProgram();
 
 /// Has the station show its window nowhere or, on Windows, where it is shipped with no such platform, on the

@@ -102,13 +102,27 @@ private slots:
         QVERIFY(adapter.expect(Wire::opening));
     }
 
-    void aFileThatIsNotUnderstoodIsToldBeforeAnythingIsSent()
+    void whatIsNoHostIsToldBeforeAnythingIsSent_data()
     {
-        const Laboratory laboratory("adaptor=127.0.0.9\n");
-        const auto nelvo = laboratory.start(QString());
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QString>("variable");
+        QTest::addColumn<QByteArray>("told");
+        QTest::newRow("the file") << QByteArray("adaptor=127.0.0.9\n") << QString()
+                                  << QByteArray("adaptor=127.0.0.9");
+        QTest::newRow("the variable") << QByteArray("adapter=127.0.0.9\n") << "127.0.0.9 "_s
+                                      << QByteArray("NELVO_ADAPTER: \"127.0.0.9 \"");
+    }
+
+    void whatIsNoHostIsToldBeforeAnythingIsSent()
+    {
+        QFETCH(QByteArray, file);
+        QFETCH(QString, variable);
+        QFETCH(QByteArray, told);
+        const Laboratory laboratory(file);
+        const auto nelvo = laboratory.start(variable);
         QVERIFY(
             nelvo->waitFor([](const QString&) { return fileText(journalFile).contains("\tno-start\t"); }));
-        QVERIFY2(fileText(journalFile).contains("adaptor=127.0.0.9"), fileText(journalFile));
+        QVERIFY2(fileText(journalFile).contains(told), fileText(journalFile));
         QVERIFY(!fileText(journalFile).contains("\tstart\t"));
         QVERIFY(nelvo->isRunning()); // it shows the box
         QVERIFY(!QFile::exists(stateFile));

@@ -14,5 +14,5 @@ struct CheckRun
     QStringList lines() const { return QString::fromUtf8(out).split(QLatin1Char('\n')); }
 };
 
-/// Does what the words of a command line ask for, in this process.
+/// Does what the words of a command line ask for, in this process; in English unless they say otherwise.
 CheckRun runCheck(const QStringList& words);

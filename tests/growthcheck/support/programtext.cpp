@@ -55,3 +55,8 @@ QByteArray programText(const QStringList& descriptions)
     }
     return text.toLocal8Bit();
 }
+
+bool canBeWritten(const QString& text)
+{
+    return QString::fromLocal8Bit(text.toLocal8Bit()) == text;
+}

@@ -10,3 +10,6 @@
 /// repeat count; what is not named is 0, "---NoGroup---" or 1. Every value is taken as a text. "n=7" numbers
 /// the line so; a description that begins with "|" is the line itself.
 QByteArray programText(const QStringList& descriptions);
+
+/// Whether a program may hold `text`: programs are files in the system's encoding.
+bool canBeWritten(const QString& text);
