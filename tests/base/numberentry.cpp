@@ -76,18 +76,14 @@ private slots:
         QCOMPARE(plainNumberText(" "_s.repeated(longestCompatible) + "８５０\n"_s), "850"_s);
     }
 
-    // Marks that combine take a time that grows with the square of their number where all are put in order.
-    void longTextsTakeNoTime()
+    // To put combining marks in order takes a time that grows with the square of their number: seconds for
+    // what an entry holds.
+    void marksOfALongTextAreNotPutInOrder()
     {
-        constexpr int largestFile = 16 * 1024 * 1024;
-        const QString marks = "\u0301\u0316"_s;
-        QElapsedTimer timer;
-        timer.start();
-        QGuiApplication::clipboard()->setText(marks.repeated(entry->maxLength() / 2));
+        const QString marks = "\u0301\u0316"_s.repeated(entry->maxLength() / 2);
+        QGuiApplication::clipboard()->setText(marks);
         entry->paste();
-        QVERIFY2(timer.elapsed() < 1000, qPrintable("%1 ms"_s.arg(timer.elapsed())));
-        QCOMPARE(plainNumberText(marks.repeated(largestFile / 2)).size(), largestFile);
-        QVERIFY2(timer.elapsed() < 10000, qPrintable("%1 ms"_s.arg(timer.elapsed())));
+        QCOMPARE(entry->text(), marks);
     }
 
     void typedTextIsMadePlainAtOnce()
