@@ -11,7 +11,7 @@ namespace GrowthCheck {
 /// looked at.
 enum class Severity { Note, Warning, Error };
 
-/// What can be found. Each kind has its line in docs/growthcheck.md.
+/// What can be found. Each kind has its line in docs/manual/*/findings.md.
 struct Kind
 {
     const char* id;

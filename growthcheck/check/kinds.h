@@ -2,7 +2,7 @@
 
 #include "growthcheck/check/finding.h"
 
-/// Every kind of finding. A new one needs its line in docs/growthcheck.md.
+/// Every kind of finding. A new one needs its line in docs/manual/*/findings.md.
 namespace GrowthCheck::Kinds {
 
 // The file.

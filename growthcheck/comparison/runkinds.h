@@ -3,7 +3,7 @@
 #include "growthcheck/check/finding.h"
 
 /// Every kind of finding in a run. An error is where shutters or set points were not as the program has them.
-/// A new one needs its line in docs/growthcheck.md.
+/// A new one needs its line in docs/manual/*/findings.md.
 namespace GrowthCheck::RunKinds {
 
 // The program.

@@ -1,4 +1,4 @@
-// The manual has a line for every kind of finding, with its weight, and for every option.
+// The manual has a line for every kind of finding, with its weight, in both languages, and one for every option.
 
 #include "growthcheck/support/checkrun.h"
 #include "support/files.h"
@@ -14,11 +14,11 @@ class CheckManualTest : public QObject
 {
     Q_OBJECT
 
-    static QMap<QString, QString> weights(const QString& fileName, const QString& pattern)
+    static QMap<QString, QString> weights(const QByteArray& utf8, const QString& pattern)
     {
         const QRegularExpression line(pattern);
         QMap<QString, QString> found;
-        const QString text = QString::fromUtf8(fileText(fileName));
+        const QString text = QString::fromUtf8(utf8);
         for (auto next = line.globalMatch(text); next.hasNext();) {
             const QRegularExpressionMatch match = next.next();
             found[match.captured(1)] = match.captured(2).toLower();
@@ -27,20 +27,34 @@ class CheckManualTest : public QObject
     }
 
 private slots:
+    void everyFindingHasItsLine_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QStringList>("words");
+        QTest::newRow("English") << "en"_s << QStringList{"error"_s, "warning"_s, "note"_s};
+        QTest::newRow("Japanese") << "ja"_s << QStringList{"誤り"_s, "警告"_s, "注記"_s};
+    }
+
     void everyFindingHasItsLine()
     {
+        QFETCH(QString, language);
+        QFETCH(QStringList, words);
         const QString kind = "Kind \\w+\\{\"([a-z-]+)\", Severity::(\\w+)\\}"_s;
         const QString root = QStringLiteral(NELVO_ROOT);
-        QMap<QString, QString> known = weights(root + "/growthcheck/check/kinds.h"_s, kind);
-        const QMap<QString, QString> ofRuns = weights(root + "/growthcheck/comparison/runkinds.h"_s, kind);
+        QMap<QString, QString> known = weights(fileText(root + "/growthcheck/check/kinds.h"_s), kind);
+        const QMap<QString, QString> ofRuns
+            = weights(fileText(root + "/growthcheck/comparison/runkinds.h"_s), kind);
         QVERIFY(known.size() > 30 && ofRuns.size() > 20);
         for (auto run = ofRuns.begin(); run != ofRuns.end(); ++run) {
             QVERIFY2(!known.contains(run.key()), qPrintable(run.key()));
             known[run.key()] = run.value();
         }
-        QCOMPARE(weights(root + "/docs/growthcheck.md"_s,
-                     "\\n\\| `([a-z-]+)` \\| (error|warning|note) \\| [^|]+ \\|[^|]*\\|"_s),
-            known);
+        const QStringList weightsInEnglish{"error"_s, "warning"_s, "note"_s};
+        for (QString& weight : known) {
+            weight = words.at(weightsInEnglish.indexOf(weight));
+        }
+        const QByteArray page = fileText(root + "/docs/manual/%1/findings.md"_s.arg(language));
+        QCOMPARE(weights(page, "\\n\\| `([a-z-]+)` \\| (\\S+) \\| [^|]+ \\|[^|]*\\|"_s), known);
     }
 
     void everyOptionIsExplained()
