@@ -57,9 +57,9 @@ QString duration(int seconds)
     return seconds == 0 ? Texts::tr("never") : Texts::tr("after %1 min").arg(seconds / 60);
 }
 
-QString outcome(const QString& refusal)
+QString outcome(const PlatformRefusal& refusal)
 {
-    return refusal.isEmpty() ? Texts::tr("yes") : Texts::tr("no (%1)").arg(refusal);
+    return refusal.isRefusal() ? Texts::tr("no (%1)").arg(refusal.inWords()) : Texts::tr("yes");
 }
 
 QString powerTable(const std::optional<PowerSettings>& power)
@@ -94,8 +94,8 @@ QString PcCheck::report() const
         text += Texts::tr("The ticks are too late: steps and ramps would be late with them.\n");
     }
     if (sleepsByItself(power)) {
-        text += Texts::tr(
-            "The PC sleeps by itself: nobody would watch the cells then. Set sleep to \"never\".\n");
+        text += Texts::tr("The PC sleeps or hibernates by itself: nobody would watch the cells then. Set "
+                          "sleep and hibernation to \"never\".\n");
     }
     if (isPassed()) {
         text += Texts::tr("This PC can run the station.\n");
@@ -105,8 +105,8 @@ QString PcCheck::report() const
 
 PcCheck checkPc(int seconds)
 {
-    QString throttling = refuseThrottling();
+    const PlatformRefusal throttling = refuseThrottling();
     PowerRequest request;
-    QString awake = request.hold(Texts::tr("The PC is being checked"));
-    return {measureTicks(seconds), powerSettings(), std::move(throttling), std::move(awake)};
+    const PlatformRefusal awake = request.hold(Texts::tr("The PC is being checked"));
+    return {measureTicks(seconds), powerSettings(), throttling, awake};
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/platformrefusal.h"
 #include "base/powersettings.h"
 #include "base/ticklateness.h"
 
@@ -13,10 +14,10 @@ struct PcCheck
 {
     TickLateness ticks;
     std::optional<PowerSettings> power; ///< nothing where the system does not tell
-    QString throttling; ///< why the process could not opt out of throttling; empty when it could
-    QString awake; ///< why the PC could not be kept awake; empty when it could
+    PlatformRefusal throttling; ///< why the process could not opt out of throttling; none when it could
+    PlatformRefusal awake; ///< why the PC could not be kept awake; none when it could
 
-    /// The ticks are fine, and the PC does not sleep by itself.
+    /// The ticks are fine, and the PC neither sleeps nor hibernates by itself.
     bool isPassed() const;
 
     /// All of it in words and a table, in the language of the application.

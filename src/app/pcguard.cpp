@@ -13,9 +13,9 @@ namespace {
 
 constexpr int lookEveryMs = 1000;
 
-QString outcome(const QString& refusal)
+QString outcome(const PlatformRefusal& refusal)
 {
-    return refusal.isEmpty() ? QStringLiteral("done") : QStringLiteral("refused: ") + refusal;
+    return refusal.isRefusal() ? QStringLiteral("refused: ") + refusal.inEnglish() : QStringLiteral("done");
 }
 
 } // namespace
@@ -65,8 +65,8 @@ void PcGuard::keepAwake(Work now)
 void PcGuard::holdUpSessionEnd(bool isPlaying)
 {
     if (isPlaying) {
-        const QString refusal = blockShutdown(window.winId(), tr("A growth program is playing."));
-        holdsUpSessionEnd = refusal.isEmpty();
+        const PlatformRefusal refusal = blockShutdown(window.winId(), tr("A growth program is playing."));
+        holdsUpSessionEnd = !refusal.isRefusal();
         emit asked(QStringLiteral("hold-session-end"), outcome(refusal));
     } else if (holdsUpSessionEnd) {
         allowShutdown(window.winId());

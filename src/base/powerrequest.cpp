@@ -1,14 +1,12 @@
 #include "base/powerrequest.h"
 
-#include "base/platformrefusal.h"
-
 #ifdef Q_OS_WIN
 
 #include <windows.h>
 
 #include <string>
 
-QString PowerRequest::hold(const QString& reason)
+PlatformRefusal PowerRequest::hold(const QString& reason)
 {
     release();
     std::wstring text = reason.toStdWString();
@@ -21,7 +19,7 @@ QString PowerRequest::hold(const QString& reason)
         return platformRefusal();
     }
     if (PowerSetRequest(created, PowerRequestSystemRequired) == 0) {
-        QString refusal = platformRefusal();
+        const PlatformRefusal refusal = platformRefusal();
         CloseHandle(created);
         return refusal;
     }
@@ -39,7 +37,7 @@ void PowerRequest::release()
 
 #else
 
-QString PowerRequest::hold(const QString& /*reason*/)
+PlatformRefusal PowerRequest::hold(const QString& /*reason*/)
 {
     return platformRefusal();
 }

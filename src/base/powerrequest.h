@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include "base/platformrefusal.h"
 
 /// Keeps the PC from going to sleep by itself; the screen may go dark. `powercfg /requests` shows the reason.
 class PowerRequest
@@ -12,8 +12,8 @@ public:
     PowerRequest& operator=(const PowerRequest&) = delete;
 
     /// Holds the PC awake until release(), for a `reason` in the operator's language; a reason held before is
-    /// replaced. Empty when it was done, else why not, in English.
-    QString hold(const QString& reason);
+    /// replaced.
+    PlatformRefusal hold(const QString& reason);
     void release();
 
 private:

@@ -1,7 +1,5 @@
 #include "base/shutdownblock.h"
 
-#include "base/platformrefusal.h"
-
 #ifdef Q_OS_WIN
 
 #include <windows.h>
@@ -17,10 +15,10 @@ HWND handleOf(quintptr window)
 
 } // namespace
 
-QString blockShutdown(quintptr window, const QString& reason)
+PlatformRefusal blockShutdown(quintptr window, const QString& reason)
 {
     const std::wstring text = reason.toStdWString();
-    return ShutdownBlockReasonCreate(handleOf(window), text.c_str()) != 0 ? QString() : platformRefusal();
+    return ShutdownBlockReasonCreate(handleOf(window), text.c_str()) != 0 ? PlatformRefusal() : platformRefusal();
 }
 
 void allowShutdown(quintptr window)
@@ -30,7 +28,7 @@ void allowShutdown(quintptr window)
 
 #else
 
-QString blockShutdown(quintptr /*window*/, const QString& /*reason*/)
+PlatformRefusal blockShutdown(quintptr /*window*/, const QString& /*reason*/)
 {
     return platformRefusal();
 }

@@ -1,7 +1,5 @@
 #include "base/throttling.h"
 
-#include "base/platformrefusal.h"
-
 #ifdef Q_OS_WIN
 
 #include <windows.h>
@@ -18,22 +16,22 @@ bool optOutOf(ULONG kinds)
 
 } // namespace
 
-QString refuseThrottling()
+PlatformRefusal refuseThrottling()
 {
     if (optOutOf(
             PROCESS_POWER_THROTTLING_EXECUTION_SPEED | PROCESS_POWER_THROTTLING_IGNORE_TIMER_RESOLUTION)) {
         return {};
     }
-    QString refusal = platformRefusal();
+    PlatformRefusal refusal = platformRefusal();
     if (optOutOf(PROCESS_POWER_THROTTLING_EXECUTION_SPEED)) {
-        refusal += QStringLiteral(" for timers, speed alone was done");
+        refusal.kind = PlatformRefusal::Kind::ErrorForTimers;
     }
     return refusal;
 }
 
 #else
 
-QString refuseThrottling()
+PlatformRefusal refuseThrottling()
 {
     return platformRefusal();
 }

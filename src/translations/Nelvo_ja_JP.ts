@@ -425,7 +425,7 @@ Nelvo [オプション]...
     </message>
     <message>
         <source>never</source>
-        <translation>しない</translation>
+        <translation>なし</translation>
     </message>
     <message>
         <source>after %1 min</source>
@@ -482,9 +482,9 @@ Nelvo [オプション]...
 </translation>
     </message>
     <message>
-        <source>The PC sleeps by itself: nobody would watch the cells then. Set sleep to &quot;never&quot;.
+        <source>The PC sleeps or hibernates by itself: nobody would watch the cells then. Set sleep and hibernation to &quot;never&quot;.
 </source>
-        <translation>この PC は自動的にスリープします。その間セルは監視されません。スリープを「なし」に設定してください。
+        <translation>この PC は自動的にスリープまたは休止状態になります。その間セルは監視されません。スリープと休止状態を「なし」に設定してください。
 </translation>
     </message>
     <message>
@@ -507,6 +507,21 @@ Nelvo [オプション]...
     <message>
         <source>A cell&apos;s temperature is ramping.</source>
         <translation>セルを昇降温中です。</translation>
+    </message>
+</context>
+<context>
+    <name>PlatformRefusal</name>
+    <message>
+        <source>this system has no such call</source>
+        <translation>このシステムにはその機能がありません</translation>
+    </message>
+    <message>
+        <source>error %1</source>
+        <translation>エラー %1</translation>
+    </message>
+    <message>
+        <source>error %1 for timers, speed alone was done</source>
+        <translation>タイマーはエラー %1、速度だけ設定しました</translation>
     </message>
 </context>
 </TS>

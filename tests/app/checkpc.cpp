@@ -2,7 +2,11 @@
 
 #include "app/checkpc.h"
 
+#include "app/language.h"
 #include "support/testmain.h"
+
+#include <QRegularExpression>
+#include <QTranslator>
 
 using namespace TestText;
 
@@ -23,6 +27,8 @@ PcCheck fitPc()
 }
 
 } // namespace
+
+Q_DECLARE_METATYPE(PlatformRefusal::Kind)
 
 class CheckPcTest : public QObject
 {
@@ -69,17 +75,55 @@ private slots:
         check.power = PowerSettings{"Balanced"_s, sleepSec, hibernateSec};
         QVERIFY(!check.isPassed());
         QVERIFY2(check.report().contains(line), qPrintable(check.report()));
-        QVERIFY2(check.report().contains("sleeps by itself"_s), qPrintable(check.report()));
+        const QString advice = "The PC sleeps or hibernates by itself: nobody would watch the cells then. "
+                               "Set sleep and hibernation to \"never\".\n"_s;
+        QVERIFY2(check.report().contains(advice), qPrintable(check.report()));
+    }
+
+    // Whoever follows the advice looks for its word in the table, and in the settings of Windows.
+    void inJapaneseTableAndAdviceHaveOneWordForNever()
+    {
+        QTranslator translator;
+        QVERIFY(speak(japanese(), translator));
+        PcCheck check = fitPc();
+        check.power = PowerSettings{"バランス"_s, 0, 10800};
+        const QString report = check.report();
+        QVERIFY2(report.contains("スリープ (電源接続時): なし\n"_s), qPrintable(report));
+        QVERIFY2(report.contains("スリープと休止状態を「なし」に設定してください。\n"_s), qPrintable(report));
+    }
+
+    void aJapaneseReportIsInJapanese_data()
+    {
+        QTest::addColumn<PlatformRefusal::Kind>("kind");
+        QTest::newRow("none") << PlatformRefusal::Kind::None;
+        QTest::newRow("no such call") << PlatformRefusal::Kind::NoSuchCall;
+        QTest::newRow("error") << PlatformRefusal::Kind::Error;
+        QTest::newRow("error for timers") << PlatformRefusal::Kind::ErrorForTimers;
+    }
+
+    void aJapaneseReportIsInJapanese()
+    {
+        QFETCH(PlatformRefusal::Kind, kind);
+        QTranslator translator;
+        QVERIFY(speak(japanese(), translator));
+        PcCheck check{ticksOf(200.0), PowerSettings{"バランス"_s, 60, 60}, {kind, 87}, {kind, 87}};
+        const QRegularExpression english("[A-Za-z]{3,}"_s);
+        QVERIFY2(!check.report().contains(english), qPrintable(check.report()));
+        check.power.reset();
+        check.ticks = ticksOf(10.0);
+        QVERIFY2(!check.report().contains(english), qPrintable(check.report()));
     }
 
     void whatTheSystemRefusesIsToldAndNoFailure()
     {
         PcCheck check = fitPc();
         check.power.reset();
-        check.throttling = "error 87"_s;
+        check.throttling = {PlatformRefusal::Kind::Error, 87};
         QVERIFY(check.isPassed());
         QVERIFY(check.report().contains("does not tell when it sleeps"_s));
         QVERIFY(check.report().contains("covered window: no (error 87)\n"_s));
+        check.throttling.kind = PlatformRefusal::Kind::ErrorForTimers;
+        QVERIFY(check.report().contains("no (error 87 for timers, speed alone was done)\n"_s));
     }
 
     void itMeasuresTheTimerThatTheStationUses()
