@@ -1,5 +1,7 @@
 #include "growthcheck/app/spokenlanguage.h"
 
+#include "base/toolkittexts.h"
+
 #include <QCoreApplication>
 
 // The catalogue sits in a static library: without this call the linker would drop it. The macro only works
@@ -17,6 +19,7 @@ SpokenLanguage::SpokenLanguage(const QString& language)
     if (language == QLatin1String("ja")
         && translator.load(QStringLiteral(":/growthcheck/growthcheck_ja_JP.qm"))) {
         QCoreApplication::installTranslator(&translator);
+        speakInToolkit(language, toolkitTranslator);
     }
 }
 

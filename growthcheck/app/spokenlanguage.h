@@ -5,14 +5,17 @@
 
 namespace GrowthCheck {
 
-/// While it lives, the program's texts are in a language, "en" or "ja". An application must exist.
+/// While it lives, the program's texts, and the toolkit's among them where it has a catalogue, are in a
+/// language, "en" or "ja". An application must exist.
 class SpokenLanguage
 {
 public:
     explicit SpokenLanguage(const QString& language);
 
 private:
-    QTranslator translator; // takes itself out of the application
+    // They take themselves out of the application.
+    QTranslator translator;
+    QTranslator toolkitTranslator;
 };
 
 } // namespace GrowthCheck

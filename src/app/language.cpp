@@ -1,8 +1,9 @@
 #include "app/language.h"
 
+#include "base/toolkittexts.h"
+
 #include <QCoreApplication>
 #include <QDir>
-#include <QLibraryInfo>
 #include <QTranslator>
 
 #include <algorithm>
@@ -83,10 +84,6 @@ bool speak(const Language& language, QTranslator& translator)
 
 bool speakInDialogs(const Language& language, QTranslator& translator)
 {
-    const QString name = QStringLiteral("qtbase_") + language.catalogue.section(QLatin1Char('_'), 1, 1);
-    const QString beside = QCoreApplication::applicationDirPath() + QStringLiteral("/translations");
-    const bool isLoaded = !language.catalogue.isEmpty()
-        && (translator.load(name, beside)
-            || translator.load(name, QLibraryInfo::location(QLibraryInfo::TranslationsPath)));
-    return isLoaded && QCoreApplication::installTranslator(&translator);
+    return !language.catalogue.isEmpty()
+        && speakInToolkit(language.catalogue.section(QLatin1Char('_'), 1, 1), translator);
 }

@@ -30,6 +30,6 @@ const Language& chooseLanguage(const QStringList& arguments);
 /// leaves the texts in English.
 bool speak(const Language& language, QTranslator& translator);
 
-/// The same for the toolkit's own dialogs, whose catalogue lies in the folder "translations" beside the
-/// program or where the toolkit keeps its catalogues. False when there is none, which leaves them in English.
+/// The same for the toolkit's own dialogs, whose catalogue comes with the toolkit (speakInToolkit()). False
+/// when there is none, which leaves them in English.
 bool speakInDialogs(const Language& language, QTranslator& translator);

@@ -18,7 +18,8 @@ HWND handleOf(quintptr window)
 PlatformRefusal blockShutdown(quintptr window, const QString& reason)
 {
     const std::wstring text = reason.toStdWString();
-    return ShutdownBlockReasonCreate(handleOf(window), text.c_str()) != 0 ? PlatformRefusal() : platformRefusal();
+    return ShutdownBlockReasonCreate(handleOf(window), text.c_str()) != 0 ? PlatformRefusal()
+                                                                          : platformRefusal();
 }
 
 void allowShutdown(quintptr window)

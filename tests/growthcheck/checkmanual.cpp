@@ -1,4 +1,5 @@
-// The manual has a line for every kind of finding, with its weight, in both languages, and one for every option.
+// The manual has a line for every kind of finding, with its weight, in both languages, and one for every
+// option.
 
 #include "growthcheck/support/checkrun.h"
 #include "support/files.h"

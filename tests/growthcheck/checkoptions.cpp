@@ -58,6 +58,34 @@ private slots:
         QVERIFY(run.out.isEmpty());
     }
 
+    // The toolkit reads the command line and opens files: what it says of them is in the language, too.
+    void theToolkitsComplaintsAreInTheLanguage_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QString>("complaint");
+        QTest::newRow("unknown option") << "--nonsense clean.dat"_s
+                                        << "'nonsense' は未知のオプションです。\n"_s;
+        QTest::newRow("missing value") << "clean.dat --at"_s
+                                       << "'--at' の後の値が欠けています。\n"_s;
+        QTest::newRow("no such folder")
+            << "--html none/page.html clean.dat"_s
+            << "none/page.html に書けません: そのようなファイルやディレクトリはありません\n"_s;
+    }
+
+    void theToolkitsComplaintsAreInTheLanguage()
+    {
+#ifdef Q_OS_WIN
+        QSKIP("the system says why a file cannot be opened, in its own language");
+#endif
+        if (!QFile::exists("/etc/debian_version"_s)) {
+            QSKIP("the toolkit's catalogues may not be installed");
+        }
+        QFETCH(QString, line);
+        QFETCH(QString, complaint);
+        const CheckRun run = runCheck("--language ja "_s.append(line).split(u' '));
+        QCOMPARE(run.complaints, complaint);
+    }
+
     void anOptionThatDoesSomethingIsTaken_data()
     {
         QTest::addColumn<QString>("line");

@@ -1,0 +1,14 @@
+#include "base/toolkittexts.h"
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
+
+bool speakInToolkit(const QString& code, QTranslator& translator)
+{
+    const QString name = QStringLiteral("qtbase_") + code;
+    const QString beside = QCoreApplication::applicationDirPath() + QStringLiteral("/translations");
+    const bool isLoaded = translator.load(name, beside)
+        || translator.load(name, QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    return isLoaded && QCoreApplication::installTranslator(&translator);
+}
