@@ -14,7 +14,10 @@ if(SYSTEM STREQUAL "Linux")
     share/applications/local.nelvo.Nelvo.desktop share/metainfo/local.nelvo.Nelvo.metainfo.xml
     share/icons/hicolor/scalable/apps/nelvo.svg share/doc/nelvo/examples/superlattice.dat)
   if(EXISTS "${BUILD}/bin/manual/ja.html")
-    list(APPEND awaited share/doc/nelvo/manual/ja.html share/doc/nelvo/manual/en.html)
+    # What F1 opens, and where that leads.
+    foreach(page ja ja-program ja-chart en en-program en-chart)
+      list(APPEND awaited share/doc/nelvo/manual/${page}.html)
+    endforeach()
   endif()
   foreach(name ${awaited})
     if(NOT EXISTS "${prefix}/${name}")
