@@ -8,7 +8,9 @@
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QScreen>
+#include <QStatusBar>
 #include <QStyleOptionButton>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTranslator>
 
@@ -84,6 +86,22 @@ void showLongestBar(const Station& station)
 void layOut(const Station& station)
 {
     station.window().grab();
+}
+
+// The messages that the station shows, each made as the operator makes it, and as long as it may reasonably be: the
+// channel with the longest name, entries of the panel's width.
+QStringList longestMessages(const Station& station)
+{
+    const int channel = Channels::count - 2;
+    QStringList messages;
+    const auto press = [&](const QString& target, const QString& minutes) {
+        station.pressRun(channel, target, minutes);
+        messages.append(station.statusBar());
+    };
+    press("100"_s, "-1234.5"_s);
+    press("1234.5"_s, "0.5"_s);
+    press("100 deg C"_s, "123.5"_s);
+    return messages;
 }
 
 void showLongestTexts(const Station& station)
@@ -189,6 +207,60 @@ private slots:
             }
         }
         QCOMPARE(cramped, QStringList());
+    }
+
+    void everyMessageHasRoomInTheStatusBar_data() { everyTabTitleHasRoom_data(); }
+
+    void everyMessageHasRoomInTheStatusBar()
+    {
+        QFETCH(QString, language);
+        QTranslator translator;
+        speak(chooseLanguage({QString(), language}), translator);
+        Station station;
+        QVERIFY(station.open());
+        station.window().show();
+        QVERIFY(QTest::qWaitForWindowExposed(&station.window()));
+        layOut(station);
+
+        const auto& bar = station.find<QStatusBar>("statusbar"_s);
+        // The toolkit writes six pixels from the left, and up to the corner by which the window is sized.
+        const auto* grip = bar.findChild<QSizeGrip*>();
+        const int room = (grip == nullptr ? bar.width() : grip->x()) - 6;
+        const QStringList messages = longestMessages(station);
+        QCOMPARE(QSet<QString>(messages.begin(), messages.end()).size(), 3);
+        for (const QString& message : messages) {
+            const int needed = bar.fontMetrics().horizontalAdvance(message);
+            QVERIFY2(!message.isEmpty() && needed <= room,
+                qPrintable("%1 needs %2 of %3"_s.arg(message).arg(needed).arg(room)));
+        }
+    }
+
+    void everyTabTitleHasRoom_data()
+    {
+        QTest::addColumn<QString>("language");
+        for (const Language& language : languages()) {
+            QTest::newRow(qPrintable(language.argument)) << language.argument;
+        }
+    }
+
+    void everyTabTitleHasRoom()
+    {
+        QFETCH(QString, language);
+        QTranslator translator;
+        speak(chooseLanguage({QString(), language}), translator);
+        Station station;
+        QVERIFY(station.open());
+        station.window().show();
+        QVERIFY(QTest::qWaitForWindowExposed(&station.window()));
+        layOut(station);
+
+        const QTabBar& bar = *station.find<QTabWidget>("tabWidget"_s).tabBar();
+        QCOMPARE(bar.count(), 2);
+        for (int i = 0; i < bar.count(); ++i) {
+            const QRect tab = bar.tabRect(i);
+            const int needed = bar.fontMetrics().horizontalAdvance(bar.tabText(i));
+            QVERIFY2(needed <= tab.width() && tab.right() < bar.width(), qPrintable(bar.tabText(i)));
+        }
     }
 
     void columnsStandUnderEachOther()
