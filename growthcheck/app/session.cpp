@@ -1,5 +1,6 @@
 #include "growthcheck/app/session.h"
 
+#include "base/toolkittexts.h"
 #include "growthcheck/app/desktop.h"
 #include "growthcheck/app/spokenlanguage.h"
 #include "growthcheck/check/check.h"
@@ -129,7 +130,7 @@ private:
         const bool isWritten
             = file.open(QIODevice::WriteOnly) && file.write(page) == page.size() && file.commit();
         if (!isWritten) {
-            outlets.complain(Words::tr("%1 cannot be written: %2").arg(options.page, file.errorString()));
+            outlets.complain(Words::tr("%1 cannot be written: %2").arg(options.page, errorText(file)));
         } else if (options.isDropped) {
             showFile(options.page);
         }

@@ -1,6 +1,7 @@
 #include "growthcheck/layers/rates.h"
 
 #include "base/number.h"
+#include "base/toolkittexts.h"
 #include "growthcheck/check/likelynumber.h"
 #include "growthcheck/check/words.h"
 
@@ -93,7 +94,7 @@ QString readRates(const QString& fileName, Rates& rates)
         return Words::tr("it is larger than 64 KiB");
     }
     if (file.error() != QFileDevice::NoError) {
-        return file.errorString();
+        return errorText(file);
     }
     const QStringList lines = QString::fromUtf8(bytes).split(QLatin1Char('\n'));
     Intake intake(rates);

@@ -1,6 +1,7 @@
 #include "base/toolkittexts.h"
 
 #include <QCoreApplication>
+#include <QFileDevice>
 #include <QLibraryInfo>
 #include <QTranslator>
 
@@ -11,4 +12,9 @@ bool speakInToolkit(const QString& code, QTranslator& translator)
     const bool isLoaded = translator.load(name, beside)
         || translator.load(name, QLibraryInfo::location(QLibraryInfo::TranslationsPath));
     return isLoaded && QCoreApplication::installTranslator(&translator);
+}
+
+QString errorText(const QFileDevice& file)
+{
+    return QCoreApplication::translate("QIODevice", file.errorString().toUtf8().constData());
 }

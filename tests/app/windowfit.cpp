@@ -88,8 +88,8 @@ void layOut(const Station& station)
     station.window().grab();
 }
 
-// The messages that the station shows, each made as the operator makes it, and as long as it may reasonably be: the
-// channel with the longest name, entries of the panel's width.
+// The messages that the station shows, each made as the operator makes it, and as long as it may reasonably
+// be: the channel with the longest name, entries of the panel's width.
 QStringList longestMessages(const Station& station)
 {
     const int channel = Channels::count - 2;
