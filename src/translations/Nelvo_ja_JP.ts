@@ -343,67 +343,6 @@ Nelvo [オプション]...
     </message>
 </context>
 <context>
-    <name>TShow</name>
-    <message>
-        <source>Frame</source>
-        <translation>枠</translation>
-    </message>
-    <message>
-        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Shift in X : Drag with Left button&lt;/p&gt;&lt;p&gt;Mag. in X : Wheel with no button&lt;/p&gt;&lt;p&gt;Shift in Y : Drag with Right button&lt;/p&gt;&lt;p&gt;Mag. in Y : Wheel with Right button&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;時間軸の移動 : 左ボタンでドラッグ&lt;/p&gt;&lt;p&gt;時間軸の拡大縮小 : ボタンを押さずにホイール&lt;/p&gt;&lt;p&gt;温度軸の移動 : 右ボタンでドラッグ&lt;/p&gt;&lt;p&gt;温度軸の拡大縮小 : 右ボタンを押しながらホイール&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
-    </message>
-</context>
-<context>
-    <name>TShowView</name>
-    <message>
-        <source>sec</source>
-        <translation>秒</translation>
-    </message>
-    <message>
-        <source>min</source>
-        <translation>分</translation>
-    </message>
-    <message>
-        <source>hour</source>
-        <translation>時間</translation>
-    </message>
-    <message>
-        <source>day</source>
-        <translation>日</translation>
-    </message>
-</context>
-<context>
-    <name>aLine</name>
-    <message>
-        <source>On</source>
-        <translation>開</translation>
-    </message>
-    <message>
-        <source>Off</source>
-        <translation>閉</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>コピー</translation>
-    </message>
-    <message>
-        <source>Cut</source>
-        <translation>切り取り</translation>
-    </message>
-    <message>
-        <source>Paste(up)</source>
-        <translation>上に貼り付け</translation>
-    </message>
-    <message>
-        <source>Paste(down)</source>
-        <translation>下に貼り付け</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>元に戻す</translation>
-    </message>
-</context>
-<context>
     <name>PcCheck</name>
     <message>
         <source>Ticks of 10 ms: %1, one every %2 ms, the latest %3 ms late
@@ -522,6 +461,67 @@ Nelvo [オプション]...
     <message>
         <source>error %1 for timers, speed alone was done</source>
         <translation>タイマーはエラー %1、速度だけ設定しました</translation>
+    </message>
+</context>
+<context>
+    <name>TShow</name>
+    <message>
+        <source>Frame</source>
+        <translation>枠</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Shift in X : Drag with Left button&lt;/p&gt;&lt;p&gt;Mag. in X : Wheel with no button&lt;/p&gt;&lt;p&gt;Shift in Y : Drag with Right button&lt;/p&gt;&lt;p&gt;Mag. in Y : Wheel with Right button&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;時間軸の移動 : 左ボタンでドラッグ&lt;/p&gt;&lt;p&gt;時間軸の拡大縮小 : ボタンを押さずにホイール&lt;/p&gt;&lt;p&gt;温度軸の移動 : 右ボタンでドラッグ&lt;/p&gt;&lt;p&gt;温度軸の拡大縮小 : 右ボタンを押しながらホイール&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>TShowView</name>
+    <message>
+        <source>sec</source>
+        <translation>秒</translation>
+    </message>
+    <message>
+        <source>min</source>
+        <translation>分</translation>
+    </message>
+    <message>
+        <source>hour</source>
+        <translation>時間</translation>
+    </message>
+    <message>
+        <source>day</source>
+        <translation>日</translation>
+    </message>
+</context>
+<context>
+    <name>aLine</name>
+    <message>
+        <source>On</source>
+        <translation>開</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>閉</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>切り取り</translation>
+    </message>
+    <message>
+        <source>Paste(up)</source>
+        <translation>上に貼り付け</translation>
+    </message>
+    <message>
+        <source>Paste(down)</source>
+        <translation>下に貼り付け</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
     </message>
 </context>
 </TS>
