@@ -124,8 +124,9 @@ QStringList withoutRoom(const QTabBar& bar)
 {
     QStringList cramped;
     for (int i = 0; i < bar.count(); ++i) {
+        // Where titles are too long the bar scrolls, and the others are out of sight.
         const QRect tab = bar.tabRect(i);
-        if (bar.fontMetrics().horizontalAdvance(bar.tabText(i)) > tab.width() || tab.right() >= bar.width()) {
+        if (bar.fontMetrics().horizontalAdvance(bar.tabText(i)) > tab.width() || !bar.rect().contains(tab)) {
             cramped.append(bar.tabText(i));
         }
     }
