@@ -26,8 +26,8 @@ QString programFolder()
         + QStringLiteral("/NelvoProgram");
 }
 
-// The names of a folder come when it has been read, with a dialog that is gone by then, too: their list would take
-// the operator's next click, whatever it is meant for.
+// The names of a folder come when it has been read, with a dialog that is gone by then, too: their list would
+// take the operator's next click, whatever it is meant for.
 void keepListToItsDialog(const QFileDialog& dialog)
 {
     QCompleter* completer = dialog.findChild<QCompleter*>();

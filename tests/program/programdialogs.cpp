@@ -130,8 +130,8 @@ private slots:
         QCOMPARE(fileText(folder() + "/plain.dat"_s).count('\n'), ProgramTab::rows);
     }
 
-    // The names of a folder that was not read yet come when the dialog has gone. A list of them would take the
-    // operator's next click, "All Close" or "Stop" included.
+    // The names of a folder that was not read yet come when the dialog has gone. A list of them would take
+    // the operator's next click, "All Close" or "Stop" included.
     void noListOfNamesComesAfterTheDialog()
     {
         const QString elsewhere = QDir::homePath() + "/elsewhere"_s;
