@@ -114,6 +114,21 @@ private slots:
         QCOMPARE(station->widgetStyle(), "fusion"_s);
     }
 
+    void aRampKeepsThePcAwake()
+    {
+        QFile::remove(journalFile);
+        const auto isAsked = [this](const QByteArray& what) {
+            return station->process().waitFor(
+                [&what](const QString&) { return fileText(journalFile).contains("\tpc\tasked=" + what); });
+        };
+        station = std::make_unique<HandledStation>();
+        QVERIFY(station->isUp());
+        station->click(cell("RunT", 0));
+        QVERIFY(isAsked("awake"));
+        station->click(cell("RunT", 0));
+        QVERIFY(isAsked("may-sleep"));
+    }
+
     void opensAtTheSizeOfItsForm()
     {
         station = std::make_unique<HandledStation>();
