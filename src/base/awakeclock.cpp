@@ -25,8 +25,7 @@ qint64 sleptMs()
 #include <chrono>
 #include <ctime>
 
-// The steady clock of Linux and macOS leaves sleep out. Where one does not, a nap counts as time that has
-// passed.
+// The steady clock of Linux leaves sleep out. Where one does not, a nap counts as time that has passed.
 qint64 awakeMs()
 {
     using namespace std::chrono;

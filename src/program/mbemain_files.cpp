@@ -8,6 +8,7 @@
 #include "program/livetable.h"
 #include "program/programfile.h"
 
+#include <QCompleter>
 #include <QDir>
 #include <QFileDialog>
 #include <QStandardPaths>
@@ -25,6 +26,14 @@ QString programFolder()
         + QStringLiteral("/NelvoProgram");
 }
 
+// The names of a folder come when it has been read, with a dialog that is gone by then, too: their list would
+// take the operator's next click, whatever it is meant for.
+void keepListToItsDialog(const QFileDialog& dialog)
+{
+    QCompleter* completer = dialog.findChild<QCompleter*>();
+    QObject::connect(&dialog, &QDialog::finished, completer, [completer] { completer->setWidget(nullptr); });
+}
+
 QFileDialog* newDialog(const QString& name, QFileDialog::AcceptMode mode)
 {
     auto* dialog = new QFileDialog(nullptr, QString(), programFolder(), QStringLiteral("*.dat"));
@@ -35,6 +44,7 @@ QFileDialog* newDialog(const QString& name, QFileDialog::AcceptMode mode)
     dialog->setOption(QFileDialog::DontUseNativeDialog);
     // A dialog left open must not keep the program running once its window is closed.
     dialog->setAttribute(Qt::WA_QuitOnClose, false);
+    keepListToItsDialog(*dialog);
     return dialog;
 }
 

@@ -1,6 +1,7 @@
 // The station's window as it comes up: what the operator sees, and what lies in the working directory.
 
 #include "app/formtable.h"
+#include "chart/tshowview.h"
 #include "support/files.h"
 #include "support/stationtest.h"
 #include "support/testmain.h"
@@ -10,6 +11,26 @@
 #include <QTabWidget>
 
 using namespace TestText;
+
+namespace {
+
+// Building the window takes time, the program's table most of it.
+class TimePassesWhileTheTableIsMade : public QObject
+{
+public:
+    TimePassesWhileTheTableIsMade() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* parent, QEvent* event) override
+    {
+        // A row's entry comes into its cell, which has no name.
+        if (event->type() == QEvent::ChildAdded && parent->isWidgetType() && parent->objectName().isEmpty()) {
+            DrivenClock::advance(1);
+        }
+        return false;
+    }
+};
+
+} // namespace
 
 class MBEMainWindowTest : public StationTest
 {
@@ -122,13 +143,28 @@ private slots:
     void timeZeroIsTheEndOfConstruction()
     {
         Station::storeInUse({});
-        QVERIFY(station->open());
+        const qint64 before = DrivenClock::nowMs();
+        {
+            const TimePassesWhileTheTableIsMade passing;
+            QVERIFY(station->open());
+        }
+        QVERIFY(DrivenClock::nowMs() - before > ProgramTab::rows);
         station->tick(Station::emptyRound);
         QCOMPARE(fileText(recordFile), QByteArray("0\t500\t470\t440\t410\t380\t350\t320\t290\t260\n"));
 
         DrivenClock::advance(90500);
         station->tick(Station::emptyRound);
         QVERIFY(fileText(recordFile).split('\n').at(1).startsWith("90.5\t"));
+    }
+
+    void theChartCountsFromTheSameMoment()
+    {
+        QVERIFY(station->open());
+        station->find<QTabWidget>("tabWidget"_s).setCurrentIndex(1);
+        DrivenClock::advance(90500);
+        station->window().grab();
+        const ChCoord& chart = station->find<TShowView>("TSView"_s).coordinates();
+        QCOMPARE(chart.dataXClamped(chart.mapping().pixelX(1e6)), 90.5);
     }
 };
 

@@ -146,6 +146,14 @@ void showLongestTexts(const Station& station)
     }
 }
 
+void addLanguages()
+{
+    QTest::addColumn<QString>("language");
+    for (const Language& language : languages()) {
+        QTest::newRow(qPrintable(language.argument)) << language.argument;
+    }
+}
+
 } // namespace
 
 class WindowFitTest : public QObject
@@ -238,13 +246,7 @@ private slots:
         QCOMPARE(cramped, QStringList());
     }
 
-    void everyMessageAndTabTitleHasRoom_data()
-    {
-        QTest::addColumn<QString>("language");
-        for (const Language& language : languages()) {
-            QTest::newRow(qPrintable(language.argument)) << language.argument;
-        }
-    }
+    void everyMessageAndTabTitleHasRoom_data() { addLanguages(); }
 
     void everyMessageAndTabTitleHasRoom()
     {
@@ -261,6 +263,37 @@ private slots:
         QCOMPARE(QSet<QString>(messages.begin(), messages.end()).size(), 3);
         QCOMPARE(withoutRoom(messages, station.find<QStatusBar>("statusbar"_s)), QStringList());
         QCOMPARE(withoutRoom(*station.find<QTabWidget>("tabWidget"_s).tabBar()), QStringList());
+    }
+
+    void theWindowNeverWidens_data() { addLanguages(); }
+
+    // Neither another state of the buttons nor a figure without end.
+    void theWindowNeverWidens()
+    {
+        QFETCH(QString, language);
+        QTranslator translator;
+        speak(chooseLanguage({QString(), language}), translator);
+        Station station;
+        QVERIFY(station.open());
+        const auto width = [&station] {
+            layOut(station);
+            return station.window().minimumSizeHint().width();
+        };
+        const int before = width();
+        for (int channel = 0; channel < Channels::count; ++channel) {
+            station.pressRun(channel, "0.0"_s, "10"_s);
+            QCOMPARE(station.style(cell("RunT", channel)), yellow);
+        }
+        QCOMPARE(width(), before);
+        for (int channel = 0; channel < Channels::count; ++channel) {
+            station.click(cell("TCActive", channel));
+            QCOMPARE(station.style(cell("TCActive", channel)), olive);
+        }
+        QCOMPARE(width(), before);
+        station.program().enter(0, "1e300"_s);
+        station.program().click("Check");
+        station.program().click("Run");
+        QCOMPARE(width(), before);
     }
 
     void columnsStandUnderEachOther()

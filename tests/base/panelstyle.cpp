@@ -49,6 +49,20 @@ private slots:
         QCOMPARE(widget.styleSheet(), QString());
     }
 
+    void aButtonHasTheRoomOfItsLongestText()
+    {
+        QToolButton longest;
+        longest.setText("NotInUse at all"_s);
+        const int needed = longest.sizeHint().width();
+        for (const QStringList& texts : {QStringList{"Run"_s, longest.text()}, {longest.text(), "Run"_s}}) {
+            QToolButton button;
+            button.setText("Run"_s);
+            keepRoomFor(button, texts);
+            QCOMPARE(button.minimumWidth(), needed);
+            QCOMPARE(button.text(), "Run"_s);
+        }
+    }
+
     void sameStateAgainChangesNothing()
     {
         QToolButton button;

@@ -86,6 +86,27 @@ private slots:
         QCOMPARE(linesOf(buffer), lines);
     }
 
+    // By looking at what was looked at before, or by moving the rest for each line, these would take longer
+    // than a test may.
+    void everyByteIsLookedAtOnce()
+    {
+        constexpr int lines = 5000000;
+        LineBuffer buffer(100);
+        buffer.append(QByteArray(lines, '\n'));
+        int taken = 0;
+        while (buffer.takeLine()) {
+            ++taken;
+        }
+        QCOMPARE(taken, lines);
+
+        const QByteArray piece(1000, 'x');
+        for (int i = 0; i < 100000; ++i) {
+            buffer.append(piece);
+            QVERIFY(!buffer.takeLine());
+        }
+        QCOMPARE(buffer.size(), 100000000);
+    }
+
     void clearingForgetsEverything()
     {
         LineBuffer buffer(100);

@@ -5,7 +5,9 @@
 #include "support/panel.h"
 #include "support/testmain.h"
 
+#include <QClipboard>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
@@ -105,6 +107,20 @@ private slots:
         QCOMPARE(row.edit(TimeColumn)->text(), "3"_s);
         QCOMPARE(row.edit(GroupColumn)->text(), "G"_s);
         QCOMPARE(row.edit(TimesColumn)->text(), "4"_s);
+    }
+
+    void everyEntryButTheGroupMakesNumbersPlain()
+    {
+        PlacedRow row;
+        const QString typed = " ８５０ "_s;
+        QGuiApplication::clipboard()->setText(typed);
+        for (int column = FirstCellColumn; column < ProgramColumns; ++column) {
+            QLineEdit* edit = row.edit(column);
+            edit->selectAll();
+            edit->paste();
+            QCOMPARE(edit->text(), column == GroupColumn ? typed : "850"_s);
+            QCOMPARE(edit->inputMethodHints().testFlag(Qt::ImhPreferLatin), column != GroupColumn);
+        }
     }
 
     void shutterClickedTwiceIsAsBefore()

@@ -130,6 +130,32 @@ private slots:
         QCOMPARE(fileText(folder() + "/plain.dat"_s).count('\n'), ProgramTab::rows);
     }
 
+    // The names of a folder that was not read yet come when the dialog has gone. A list of them would take
+    // the operator's next click, "All Close" or "Stop" included.
+    void noListOfNamesComesAfterTheDialog()
+    {
+        const QString elsewhere = QDir::homePath() + "/elsewhere"_s;
+        QVERIFY(QDir().mkpath(elsewhere));
+        putFile(elsewhere + "/picked.dat"_s, "\n");
+        program().click("Load");
+        QFileDialog* dialog = dialogNamed("loadDialog");
+        QTRY_VERIFY(dialog->isActiveWindow());
+        auto* nameEdit = dialog->findChild<QLineEdit*>("fileNameEdit"_s);
+        nameEdit->selectAll(); // the name chosen before is still there
+        // Keys go to the list of names while there is one, as the window system gives them.
+        const auto focus = [nameEdit] {
+            QWidget* list = QApplication::activePopupWidget();
+            return list != nullptr ? list : nameEdit;
+        };
+        for (const QChar character : elsewhere + "/picked.dat"_s) {
+            QTest::keyClicks(focus(), character);
+        }
+        QTest::keyClick(focus(), Qt::Key_Return);
+        QTRY_VERIFY(!dialog->isVisible());
+        QTest::qWait(1000);
+        QVERIFY(QApplication::activePopupWidget() == nullptr);
+    }
+
     void anOpenDialogDoesNotOutliveTheWindow_data()
     {
         QTest::addColumn<QByteArray>("button");

@@ -5,7 +5,9 @@
 #include "support/stationtest.h"
 #include "support/testmain.h"
 
+#include <QClipboard>
 #include <QDir>
+#include <QGuiApplication>
 #include <QTextCodec>
 
 using namespace TestText;
@@ -54,6 +56,20 @@ private slots:
         QCOMPARE(program().steps(), before);
         program().saveFile("full.dat"_s);
         QCOMPARE(fileText("full.dat"_s), saved);
+    }
+
+    void aNumberPastedWithItsLineEndKeepsItsRow()
+    {
+        program().enter(1, "5"_s);
+        QGuiApplication::clipboard()->setText("850\n"_s);
+        program().setPoint(1, 2)->selectAll();
+        program().setPoint(1, 2)->paste();
+        const QVector<ProgramStep> before = program().steps();
+        program().saveFile("pasted.dat"_s);
+        program().click("Clear");
+        program().loadFile("pasted.dat"_s);
+        QCOMPARE(program().setPoint(1, 2)->text(), "850"_s);
+        QCOMPARE(program().steps(), before);
     }
 
     void aGroupOutsideAsciiIsSavedAndLoaded_data()

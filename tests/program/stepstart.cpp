@@ -135,6 +135,41 @@ private slots:
         QCOMPARE(program().marked(), QVector<int>{1});
     }
 
+    void aStepThatIsRefusedEndsTheRampBeforeIt_data()
+    {
+        QTest::addColumn<QString>("timeSec");
+        QTest::addColumn<QString>("setPoint");
+        QTest::newRow("too fast a rise") << "1"_s
+                                         << "400"_s;
+        QTest::newRow("no time") << "1e-310"_s
+                                 << "40"_s;
+    }
+
+    // The button tells the truth: the cell is idle, and the next press starts a ramp.
+    void aStepThatIsRefusedEndsTheRampBeforeIt()
+    {
+        QFETCH(QString, timeSec);
+        QFETCH(QString, setPoint);
+        program().enter(0, "60"_s);
+        program().setPoint(0, 0)->setText("40"_s);
+        program().enter(1, timeSec);
+        program().setPoint(1, 0)->setText(setPoint);
+        program().enter(2, "600"_s);
+        program().click("Run");
+        program().tick();
+        QVERIFY(station->isRamping(0));
+        program().tick(60001);
+        QVERIFY(station->statusBar().contains("[0:Be]"_s));
+        QCOMPARE(station->states("RunT", "Stop"_s, "Run"_s), "xxxxxxxxx"_s);
+        for (int round = 0; round < 3; ++round) {
+            DrivenClock::advance(60001);
+            QVERIFY(station->round());
+        }
+        QCOMPARE(station->setPoints, QList<QByteArray>());
+        station->pressRun(0, "40"_s, "10"_s);
+        QVERIFY(station->isRamping(0));
+    }
+
     void stopLeavesShuttersAndRamps()
     {
         program().enter(0, "60"_s);

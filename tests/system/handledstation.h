@@ -42,6 +42,7 @@ public:
     void closeWindow() { ask({QStringLiteral("close")}); }
     /// The style that the toolkit draws the window in: "fusion" and the like.
     QString widgetStyle() { return ask({QStringLiteral("widgets")}); }
+    bool isMaximized() { return ask({QStringLiteral("maximized")}) == QLatin1String("true"); }
     QString status() { return ask({QStringLiteral("status")}); }
     /// What the system's clock says in the station's process, ms since the epoch.
     qint64 systemClockMs() { return ask({QStringLiteral("clock")}).toLongLong(); }

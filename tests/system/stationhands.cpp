@@ -109,9 +109,40 @@ private slots:
 
     void looksTheSameEverywhere()
     {
-        station = std::make_unique<HandledStation>(QStringList{"QT_STYLE_OVERRIDE="_s});
+        station = std::make_unique<HandledStation>(QStringList{"QT_QPA_PLATFORM=minimal"_s});
         QVERIFY(station->isUp());
         QCOMPARE(station->widgetStyle(), "fusion"_s);
+    }
+
+    void aRampKeepsThePcAwake()
+    {
+        QFile::remove(journalFile);
+        const auto isAsked = [this](const QByteArray& what) {
+            return station->process().waitFor(
+                [&what](const QString&) { return fileText(journalFile).contains("\tpc\tasked=" + what); });
+        };
+        station = std::make_unique<HandledStation>();
+        QVERIFY(station->isUp());
+        station->click(cell("RunT", 0));
+        QVERIFY(isAsked("awake"));
+        station->click(cell("RunT", 0));
+        QVERIFY(isAsked("may-sleep"));
+    }
+
+    void opensAtTheSizeOfItsForm()
+    {
+        station = std::make_unique<HandledStation>();
+        QVERIFY(station->isUp());
+        QVERIFY(!station->isMaximized());
+    }
+
+    void theToolkitsDialogsSpeakItsLanguage()
+    {
+        station = std::make_unique<HandledStation>(QStringList(), QStringList{"-j"_s});
+        QVERIFY(station->isUp());
+        station->click("ProgLoad"_s);
+        QVERIFY2(station->text("fileNameLabel"_s).contains("ファイル"_s),
+            qPrintable(station->text("fileNameLabel"_s)));
     }
 
     void endsWithItsWindowAndSendsNothing_data()

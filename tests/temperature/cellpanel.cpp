@@ -4,7 +4,10 @@
 #include "support/stationtest.h"
 #include "support/testmain.h"
 
+#include <QClipboard>
 #include <QDir>
+#include <QGuiApplication>
+#include <QLineEdit>
 
 using namespace TestText;
 
@@ -87,6 +90,21 @@ private slots:
         QCOMPARE(inUse(), "oxoooooox"_s);
         QCOMPARE(
             fileText(stateFile), QByteArray("ActiveF1\tInActive\nActiveF4\tActive\nActiveF8\tInActive\n"));
+    }
+
+    void everyEntryMakesNumbersPlain()
+    {
+        QVERIFY(station->open());
+        QGuiApplication::clipboard()->setText(" ９５０\n"_s);
+        for (int channel = 0; channel < Channels::count; ++channel) {
+            for (const char* row : {"TDeg", "DTime"}) {
+                auto& entry = station->find<QLineEdit>(cell(row, channel));
+                entry.selectAll();
+                entry.paste();
+                QCOMPARE(entry.text(), "950"_s);
+                QVERIFY(entry.inputMethodHints() & Qt::ImhPreferLatin);
+            }
+        }
     }
 
     void storedTexts_data()

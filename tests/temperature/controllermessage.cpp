@@ -232,6 +232,9 @@ private slots:
         QTest::newRow("zero") << QByteArray("01M0000.00E") << "0"_s;
         QTest::newRow("not a number") << QByteArray("hello world") << "0"_s;
         QTest::newRow("junk behind the number") << QByteArray("01M12.3abcE") << "0"_s;
+        QTest::newRow("not finite") << QByteArray("01M    infE") << "0"_s;
+        QTest::newRow("not a number by its name") << QByteArray("01M    nanE") << "0"_s;
+        QTest::newRow("beyond all numbers") << QByteArray("01M  1e999E") << "0"_s;
         QTest::newRow("ER") << QByteArray("ER") << "----.-"_s;
         QTest::newRow("nothing yet") << QByteArray() << "0"_s;
     }

@@ -21,6 +21,18 @@ QMainWindow* stationWindow()
     return nullptr;
 }
 
+// In the window or, where it has none of that name, in a dialog.
+QWidget* widgetNamed(const QString& name, const QMainWindow& window)
+{
+    auto* found = window.findChild<QWidget*>(name);
+    for (const QWidget* dialog : QApplication::topLevelWidgets()) {
+        if (found == nullptr && dialog->isVisible()) {
+            found = dialog->findChild<QWidget*>(name);
+        }
+    }
+    return found;
+}
+
 QString ok(const QString& text = QString())
 {
     return QStringLiteral("ok\t") + text;
@@ -73,6 +85,9 @@ QString Hands::answer(const QStringList& words)
     if (verb == QLatin1String("widgets")) {
         return ok(QApplication::style()->objectName());
     }
+    if (verb == QLatin1String("maximized")) {
+        return ok(QVariant(window->isMaximized()).toString());
+    }
     if (verb == QLatin1String("close")) {
         return window->close() ? ok() : error(QStringLiteral("the window stays"));
     }
@@ -89,7 +104,7 @@ QString Hands::answer(const QStringList& words)
     if (verb == QLatin1String("grab")) {
         return window->grab().save(words[1]) ? ok() : error(QStringLiteral("cannot save the picture"));
     }
-    auto* widget = window->findChild<QWidget*>(words[1]);
+    QWidget* widget = widgetNamed(words[1], *window);
     if (widget == nullptr) {
         return error(QStringLiteral("no widget ") + words[1]);
     }
