@@ -58,9 +58,9 @@ void defineOptions(QCommandLineParser& parser)
         {recordName, QStringLiteral("Keeps every byte that clients send in this file."),
             QStringLiteral("file")},
         {replayName,
-            QStringLiteral(
-                "Answers as the station's journal FILE has it (written with NELVO_JOURNAL=--wire), and ends\n"
-                "with the first command that differs; --time-scale makes it faster."),
+            QStringLiteral("Answers as the station's NelvoWire.log FILE has it (written with "
+                           "NELVO_JOURNAL=--wire), and ends\n"
+                           "with the first command that differs; --time-scale makes it faster."),
             QStringLiteral("file")},
         {quietName, QStringLiteral("Logs nothing but where it listens.")},
         {onceName, QStringLiteral("Ends when the first client has left.")},

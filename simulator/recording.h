@@ -23,9 +23,9 @@ struct Recording
     QVector<Reply> replies;
 };
 
-/// Reads the last run of the journal `name` that has bytes in it (the station writes them where NELVO_JOURNAL
-/// is "--wire"), the older files beside it included. Nothing when the file cannot be read or has none;
-/// `error` then says so in a line.
+/// Reads the last run of the journal `name` that has bytes in it (the station writes them into NelvoWire.log
+/// where NELVO_JOURNAL is "--wire"), the older files beside it included. Nothing when the file cannot be read
+/// or has none, and when the run has lost its beginning or other lines; `error` then says so in a line.
 std::optional<Recording> readRecording(const QString& name, QString& error);
 
 } // namespace Chamber

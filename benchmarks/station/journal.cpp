@@ -42,10 +42,14 @@ Cost costOfALine()
     return {median(wallUs), 1e6 * cpuSec / (batches * linesInBatch)};
 }
 
-int linesInJournal()
+int linesInJournals()
 {
-    QFile file(QStringLiteral("NelvoJournal.log"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll().count('\n') : 0;
+    int lines = 0;
+    for (const char* name : {"NelvoJournal.log", "NelvoWire.log"}) {
+        QFile file{QLatin1String(name)};
+        lines += file.open(QIODevice::ReadOnly) ? file.readAll().count('\n') : 0;
+    }
+    return lines;
 }
 
 // Lines a second while nine channels are polled as quickly as it goes and every byte is written down: more
@@ -57,11 +61,11 @@ double linesASecond()
     auto window = std::make_unique<MBEMain>();
     window->show();
     letRun(1000);
-    const int before = linesInJournal();
+    const int before = linesInJournals();
     const qint64 start = steadyNowNs();
     letRun(measuredMs);
     const double seconds = static_cast<double>(steadyNowNs() - start) / 1e9;
-    const int lines = linesInJournal() - before;
+    const int lines = linesInJournals() - before;
     window.reset();
     peer.finish();
     if (lines < fewestLines) {

@@ -16,7 +16,7 @@ namespace GrowthCheck {
 namespace {
 
 constexpr qint64 longestLine = qint64{1024} * 1024; // bytes; a program's row has no more
-constexpr qint64 largestFile = 4 * Journal::largestFile;
+constexpr qint64 largestFile = 4 * Journal::largestWireFile;
 
 using Line = JournalLine;
 
@@ -171,7 +171,7 @@ int RecordedEvent::channel() const
 RecordedRuns readRun(const QString& fileName, int number, const QVector<ProgramStep>& steps)
 {
     Search search(number, steps);
-    for (int older = Journal::olderFiles; older > 0; --older) {
+    for (int older = Journal::olderWireFiles; older > 0; --older) {
         const QString name = fileName + QLatin1Char('.') + QString::number(older);
         if (QFileInfo(name).isFile()) {
             searchFile(name, search);

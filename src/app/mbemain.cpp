@@ -56,6 +56,7 @@ MBEMain::~MBEMain()
     delete gpib;
     delete linkJournal;
     delete journal;
+    delete wireJournal;
     delete conditions;
 }
 

@@ -151,6 +151,7 @@ private:
     GPIB* gpib = nullptr;
     Conditions* conditions = nullptr;
     Journal* journal = nullptr;
+    Journal* wireJournal = nullptr; // with every byte of the link, where that is wanted
     LinkJournal* linkJournal = nullptr;
     TimeWatch timeWatch{10};
     qint64 nextMinuteMs = 0; // ms since the epoch: when the temperatures are written down next

@@ -38,8 +38,12 @@ QString textsOf(const QList<QLabel*>& labels)
 void MBEMain::setupJournal()
 {
     journal = new Journal;
-    const bool everyByte = qEnvironmentVariable("NELVO_JOURNAL") == QLatin1String("--wire");
-    linkJournal = new LinkJournal(*journal, everyByte);
+    if (qEnvironmentVariable("NELVO_JOURNAL") == QLatin1String("--wire")) {
+        wireJournal
+            = new Journal(QStringLiteral("NelvoWire.log"), Journal::largestWireFile, Journal::olderWireFiles);
+        journal->copyTo(*wireJournal);
+    }
+    linkJournal = new LinkJournal(*journal, wireJournal);
     journal->write("start",
         {{"version", QStringLiteral(NELVO_VERSION)}, {"adapter", adapterAddress()},
             {"language", tr("English", "the name of the language of these texts")},

@@ -16,10 +16,19 @@ QString older(const QString& name, int number)
 
 } // namespace
 
-Journal::Journal(const QString& name)
+Journal::Journal(const QString& name, qint64 largestSize, int keptFiles)
     : fileName(QFileInfo(name).absoluteFilePath())
+    , largest(largestSize)
+    , kept(keptFiles)
     , startMs(WallClock::nowMs())
+    , fullAt(largestSize)
 {
+}
+
+void Journal::copyTo(Journal& other)
+{
+    copy = &other;
+    other.startMs = startMs;
 }
 
 std::optional<JournalLine> Journal::lastLine() const
@@ -43,12 +52,42 @@ void Journal::write(const char* kind, const JournalFields& fields)
 {
     JournalLine line = lineNow(kind);
     line.fields = fields;
+    take(journalText(line));
+}
+
+// A line.
+void Journal::take(const QByteArray& text)
+{
+    if (copy != nullptr) {
+        copy->take(text);
+    }
     if (openBatches > 0) {
-        batch += journalText(line);
+        batch += text;
         ++batchLines;
         return;
     }
-    append(journalText(line), 1);
+    append(text, 1);
+}
+
+void Journal::beginBatch()
+{
+    ++openBatches;
+    if (copy != nullptr) {
+        copy->beginBatch();
+    }
+}
+
+void Journal::endBatch()
+{
+    if (copy != nullptr) {
+        copy->endBatch();
+    }
+    --openBatches;
+    if (openBatches == 0 && batchLines > 0) {
+        append(batch, batchLines);
+        batch.clear();
+        batchLines = 0;
+    }
 }
 
 // `text` has `count` lines.
@@ -75,32 +114,27 @@ void Journal::rotate()
 {
     constexpr qint64 untilTriedAgain = qint64{1024} * 1024;
     int free = 1;
-    while (free < olderFiles && QFile::exists(older(fileName, free))) {
+    while (free < kept && QFile::exists(older(fileName, free))) {
         ++free;
     }
-    if (free == olderFiles) {
-        QFile::remove(older(fileName, olderFiles));
+    if (free == kept) {
+        QFile::remove(older(fileName, kept));
     }
     while (free > 0 && QFile::rename(older(fileName, free - 1), older(fileName, free))) {
         --free;
     }
-    fullAt = free == 0 ? largestFile : QFileInfo(fileName).size() + untilTriedAgain;
+    fullAt = free == 0 ? largest : QFileInfo(fileName).size() + untilTriedAgain;
 }
 
 JournalBatch::JournalBatch(Journal& target)
     : journal(target)
 {
-    ++journal.openBatches;
+    journal.beginBatch();
 }
 
 JournalBatch::~JournalBatch()
 {
-    --journal.openBatches;
-    if (journal.openBatches == 0 && journal.batchLines > 0) {
-        journal.append(journal.batch, journal.batchLines);
-        journal.batch.clear();
-        journal.batchLines = 0;
-    }
+    journal.endBatch();
 }
 
 JournalLine Journal::lineNow(const char* kind) const

@@ -7,19 +7,28 @@
 /// What happened, a line an event, in a file that outlives the program: appended and flushed a line at a
 /// time, so that nothing is lost but what a crash cut off.
 ///
-/// At 8 MiB the file is put aside as NAME.1, the one before it as NAME.2, and so on; four of them are kept.
-/// Where a file cannot be moved, as when somebody has it open, none is given up and the last is written on. A
-/// full disk or a closed folder costs the lines and nothing else; how many were lost is told as soon as there
-/// is room.
+/// At 8 MiB, unless another size is said, the file is put aside as NAME.1, the one before it as NAME.2, and
+/// so on; four of them are kept. Where a file cannot be moved, as when somebody has it open, none is given up
+/// and the last is written on. A full disk or a closed folder costs the lines and nothing else; how many were
+/// lost is told as soon as there is room.
 class Journal
 {
 public:
     static constexpr qint64 largestFile = qint64{8} * 1024 * 1024;
     static constexpr int olderFiles = 4;
+    /// The same for a journal with every byte of the link: thirty hours of the busiest one, a growth and
+    /// more.
+    static constexpr qint64 largestWireFile = qint64{64} * 1024 * 1024;
+    static constexpr int olderWireFiles = 7;
 
     /// Writes to the file `name`, which need not be there yet; relative names count from the working
-    /// directory.
-    explicit Journal(const QString& name = QStringLiteral("NelvoJournal.log"));
+    /// directory. At `largestSize` bytes it is put aside, and `keptFiles` older ones are kept.
+    explicit Journal(const QString& name = QStringLiteral("NelvoJournal.log"),
+        qint64 largestSize = largestFile, int keptFiles = olderFiles);
+
+    /// Has `other` told every line from here on, too; it must outlive this one, and its seconds count from
+    /// this one's start.
+    void copyTo(Journal& other);
 
     /// The last whole line of the file as it stands; none when there is no file or no line.
     std::optional<JournalLine> lastLine() const;
@@ -29,14 +38,20 @@ public:
 private:
     friend class JournalBatch;
 
+    void take(const QByteArray& text);
+    void beginBatch();
+    void endBatch();
     void append(const QByteArray& text, int count);
     void rotate();
     JournalLine lineNow(const char* kind) const;
 
-    QString fileName;
+    const QString fileName;
+    const qint64 largest;
+    const int kept;
     qint64 startMs; // the program's start by WallClock
+    Journal* copy = nullptr;
     qint64 lostLines = 0;
-    qint64 fullAt = largestFile;
+    qint64 fullAt;
     int openBatches = 0;
     QByteArray batch;
     int batchLines = 0;

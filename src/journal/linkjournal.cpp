@@ -20,9 +20,9 @@ QString textOf(const QByteArray& bytes)
 
 } // namespace
 
-LinkJournal::LinkJournal(Journal& target, bool everyByte)
+LinkJournal::LinkJournal(Journal& target, Journal* wire)
     : journal(target)
-    , tellsBytes(everyByte)
+    , bytesJournal(wire)
 {
 }
 
@@ -42,15 +42,15 @@ void LinkJournal::sent(const QByteArray& bytes)
     if (bytes.startsWith('\x04')) {
         readUnit = bytes.endsWith("M1\x05\n") ? bytes[2] : '\0';
     }
-    if (tellsBytes) {
-        journal.write("sent", {{"bytes", textOf(bytes)}});
+    if (bytesJournal != nullptr) {
+        bytesJournal->write("sent", {{"bytes", textOf(bytes)}});
     }
 }
 
 void LinkJournal::received(const QByteArray& bytes)
 {
-    if (tellsBytes) {
-        journal.write("received", {{"bytes", textOf(bytes)}});
+    if (bytesJournal != nullptr) {
+        bytesJournal->write("received", {{"bytes", textOf(bytes)}});
     }
 }
 

@@ -6,8 +6,8 @@
 #include <array>
 
 /// Has the journal tell what happens on the link: when the connection comes and goes, when the bus is held,
-/// lines that nobody asked for, readings that stand under the wrong channel, and, when that is wanted, every
-/// byte.
+/// lines that nobody asked for, readings that stand under the wrong channel. Every byte goes to a journal of
+/// its own, when there is one: bytes are so many that they would push everything else out.
 ///
 /// Whose a reading is can be told only of controllers that begin their lines with their unit ("01" to "09").
 /// That these do is believed once as many readings in a row as there are channels began with the unit that
@@ -18,8 +18,8 @@ public:
     /// How long a reply may be awaited before the bus counts as held.
     static constexpr qint64 heldMs = 1000;
 
-    /// `target` must outlive this. With `everyByte` all bytes are written down.
-    LinkJournal(Journal& target, bool everyByte);
+    /// `target` must outlive this, and `wire`, which may be null, too.
+    explicit LinkJournal(Journal& target, Journal* wire = nullptr);
 
     void connected() override;
     void notConnected(bool wasUp, const QString& why) override;
@@ -37,7 +37,7 @@ private:
     void followShift(bool isOwn, const QByteArray& line);
 
     Journal& journal;
-    bool tellsBytes;
+    Journal* bytesJournal;
     int untoldLines = 0; // unasked ones
     qint64 nextUnaskedMs = 0;
     int awaitedLines = 0; // answers that have still to come, the adapter's own included

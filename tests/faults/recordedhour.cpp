@@ -109,7 +109,7 @@ private slots:
         }
         qunsetenv("NELVO_JOURNAL");
         QString error;
-        const std::optional<Chamber::Recording> recording = Chamber::readRecording(journalFile, error);
+        const std::optional<Chamber::Recording> recording = Chamber::readRecording(wireFile, error);
         QVERIFY2(recording, qPrintable(error));
         QVERIFY2(recording->commands == first.sent, qPrintable(difference(recording->commands, first.sent)));
         QFile::remove(stateFile);

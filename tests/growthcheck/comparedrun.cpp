@@ -20,7 +20,6 @@ using namespace TestText;
 
 namespace {
 
-const QString journal = "NelvoJournal.log"_s;
 constexpr int tickLimit = 100000;
 
 } // namespace
@@ -68,7 +67,7 @@ class ComparedRunTest : public StationTest
         QVERIFY(!program().isRunning());
     }
 
-    static QJsonObject compared(const QString& fileName)
+    static QJsonObject compared(const QString& fileName, const QString& journal = journalFile)
     {
         const CheckRun run = runCheck({"compare"_s, "--json"_s, fileName, journal});
         QJsonObject comparison = QJsonDocument::fromJson(run.out).object()["comparison"_s].toObject();
@@ -96,7 +95,8 @@ class ComparedRunTest : public StationTest
 private slots:
     void init()
     {
-        QFile::remove(journal);
+        QFile::remove(journalFile);
+        QFile::remove(wireFile);
         qunsetenv("NELVO_JOURNAL");
         StationTest::init();
     }
@@ -165,7 +165,7 @@ private slots:
         rates.at(static_cast<size_t>(kind)) = rate;
         chamber->setFaults(rates, 7);
         play();
-        const QString all = foundIn("program.dat"_s).join(u'\n');
+        const QString all = findingsOf(compared("program.dat"_s, wireFile)).join(u'\n');
         for (const QString& id : found) {
             QVERIFY2(all.contains(id + u' '), qPrintable(id + " is not among:\n"_s + all));
         }
@@ -267,8 +267,8 @@ private slots:
         play();
         QCOMPARE(compared("first.dat"_s)["run"_s].toInt(), 1);
         QCOMPARE(compared("program.dat"_s)["run"_s].toInt(), 2);
-        QCOMPARE(runCheck({"compare"_s, "--run"_s, "1"_s, "program.dat"_s, journal}).status, 1);
-        QCOMPARE(runCheck({"compare"_s, "--run"_s, "3"_s, "program.dat"_s, journal}).status, 2);
+        QCOMPARE(runCheck({"compare"_s, "--run"_s, "1"_s, "program.dat"_s, journalFile}).status, 1);
+        QCOMPARE(runCheck({"compare"_s, "--run"_s, "3"_s, "program.dat"_s, journalFile}).status, 2);
         QCOMPARE(runCheck({"compare"_s, "program.dat"_s, "absent.log"_s}).status, 2);
     }
 

@@ -109,14 +109,56 @@ private slots:
     {
         Journal journal;
         for (int round = 0; round < 6; ++round) {
-            putFile(name, QByteArray(static_cast<int>(Journal::largestFile), '\n'));
+            putFile(
+                name, QByteArray::number(round).leftJustified(static_cast<int>(Journal::largestFile), '\n'));
             journal.write("minute", {{"round", QString::number(round)}});
             QCOMPARE(linesOf().size(), 1);
             QCOMPARE(linesOf().first().value("round"_s), QString::number(round));
         }
-        // Four older ones are kept; the last to be put aside is the youngest.
         const QStringList files = QDir().entryList({name + "*"_s}, QDir::Files, QDir::Name);
         QCOMPARE(files, QStringList({name, name + ".1"_s, name + ".2"_s, name + ".3"_s, name + ".4"_s}));
+        // Four older ones are kept; the last to be put aside is the youngest.
+        for (int number = 1; number <= Journal::olderFiles; ++number) {
+            QCOMPARE(fileText("%1.%2"_s.arg(name).arg(number)).left(1), QByteArray::number(6 - number));
+        }
+    }
+
+    void anotherJournalHasItsOwnSizeAndNumberOfFiles()
+    {
+        Journal journal(name, 1000, 2);
+        for (int round = 0; round < 4; ++round) {
+            putFile(name, QByteArray(1000, '0' + static_cast<char>(round)));
+            journal.write("minute");
+        }
+        QCOMPARE(QDir().entryList({name + "*"_s}, QDir::Files, QDir::Name),
+            QStringList({name, name + ".1"_s, name + ".2"_s}));
+        QCOMPARE(fileText(name + ".1"_s), QByteArray(1000, '3'));
+        QCOMPARE(fileText(name + ".2"_s), QByteArray(1000, '2'));
+    }
+
+    void aCopyHasTheSameLinesAndMore()
+    {
+        const DrivenClock clock;
+        Journal journal;
+        DrivenClock::advance(1500);
+        Journal copy(name + ".copy"_s);
+        journal.copyTo(copy);
+        journal.write("start");
+        copy.write("sent");
+        {
+            const JournalBatch together(journal);
+            journal.write("step");
+            copy.write("sent");
+            QCOMPARE(linesOf(name + ".copy"_s).size(), 2); // one file is not written for each line either
+            journal.write("ramp");
+        }
+        QStringList kinds;
+        for (const JournalLine& line : linesOf(name + ".copy"_s)) {
+            kinds.append(line.kind);
+            QCOMPARE(line.elapsedSec, 1.5);
+        }
+        QCOMPARE(kinds, QStringList({"start"_s, "sent"_s, "step"_s, "sent"_s, "ramp"_s}));
+        QCOMPARE(linesOf().size(), 3);
     }
 
     // As a file leaves it that could not be moved on because somebody had it open.

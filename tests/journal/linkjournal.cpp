@@ -3,6 +3,7 @@
 #include "journal/linkjournal.h"
 
 #include "base/channels.h"
+#include "support/files.h"
 #include "support/journalevents.h"
 #include "support/testmain.h"
 #include "support/testtext.h"
@@ -38,7 +39,7 @@ private slots:
     void init()
     {
         journalEvents();
-        link = std::make_unique<LinkJournal>(journal, false);
+        link = std::make_unique<LinkJournal>(journal);
     }
 
     void connectionsComeAndGo()
@@ -50,16 +51,18 @@ private slots:
             QStringList({"refused why=nobody is there"_s, "connected"_s, "lost why=gone"_s}));
     }
 
-    void bytesAreToldWhenThatIsWanted()
+    void bytesAreToldWhereThereIsAJournalForThem()
     {
         link->sent("++eoi\n");
         link->received("1\r\n");
         QCOMPARE(journalEvents(), QStringList());
-        link = std::make_unique<LinkJournal>(journal, true);
+        Journal wire(wireFile);
+        link = std::make_unique<LinkJournal>(journal, &wire);
         link->sent(Wire::shutters(0x05));
         link->sent(Wire::shutters(0x00));
         link->received("a\\b\r\n\xFF");
-        QCOMPARE(journalEvents(),
+        QCOMPARE(journalEvents(), QStringList());
+        QCOMPARE(journalEventsOf(wireFile),
             QStringList({"sent bytes=\\x1b\\x05\\x0a"_s, "sent bytes=\\x1b\\x00\\x0a"_s,
                 "received bytes=a\\\\b\\x0d\\x0aÿ"_s}));
     }

@@ -6,6 +6,7 @@
 #include "support/testmain.h"
 
 #include <QDir>
+#include <QRegularExpression>
 
 using namespace TestText;
 
@@ -49,6 +50,32 @@ private slots:
         QVERIFY(station->open());
         const QString start = journalEvents().filter("start "_s).last();
         QVERIFY2(start.endsWith(ended ? "last-run=ended"_s : "last-run=broken off"_s), qPrintable(start));
+    }
+
+    // Bytes would push the minutes' temperatures out of the journal within hours.
+    void everyByteGoesToAJournalOfItsOwn()
+    {
+        QVERIFY(!QFile::exists(wireFile));
+        qputenv("NELVO_JOURNAL", "--wire");
+        station->close();
+        journalEvents();
+        QVERIFY(station->open());
+        qunsetenv("NELVO_JOURNAL");
+        QVERIFY(station->round());
+        station->click(cell("CS", 2));
+        DrivenClock::advance(60000);
+        station->tick();
+        const QStringList events = journalEvents();
+        QVERIFY(events.filter("minute "_s).size() == 1);
+        QCOMPARE(events.filter(QRegularExpression("^(sent|received) "_s)), QStringList());
+        const QStringList all = journalEventsOf(wireFile);
+        QVERIFY(all.contains("sent bytes=\\x1b\\x04\\x0a"_s));
+        QCOMPARE(all.filter(QRegularExpression("^received "_s)).size(), Channels::count);
+        QStringList others = all;
+        for (const QString& event : all.filter(QRegularExpression("^(sent|received) "_s))) {
+            others.removeAll(event);
+        }
+        QCOMPARE(others, events);
     }
 
     void everyMaskIsToldInLettersWithItsWait()

@@ -95,6 +95,33 @@ private slots:
         QVERIFY(error.contains("NELVO_JOURNAL=--wire"_s));
     }
 
+    void whatIsLeftOfARunIsRefused_data()
+    {
+        const QByteArray start = line(0.0, "start", QString());
+        const QByteArray bytes = line(0.1, "sent", "++eoi\n"_s) + line(0.2, "received", "1\r\n"_s);
+        const QByteArray loss = line(0.3, "lost-lines", QString());
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("why");
+        QTest::newRow("no start") << bytes << "no longer has the beginning"_s;
+        QTest::newRow("lines lost before the first byte") << start + loss + bytes << "had no room"_s;
+        QTest::newRow("lines lost in the middle") << start + bytes + loss + bytes << "had no room"_s;
+        // The loss may be the start itself: then the bytes of two runs follow each other.
+        QTest::newRow("the start lost") << session + loss + bytes << "had no room"_s;
+        QTest::newRow("lines lost in an earlier run") << start + bytes + loss + session << QString();
+        QTest::newRow("lines lost in a later run without bytes") << session + start + loss << QString();
+    }
+
+    void whatIsLeftOfARunIsRefused()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, why);
+        putFile("journal"_s, text);
+        QString error;
+        QCOMPARE(readRecording("journal"_s, error).has_value(), why.isEmpty());
+        QVERIFY2(error.contains(why), qPrintable(error));
+        QCOMPARE(error.isEmpty(), why.isEmpty());
+    }
+
     void theSameCommandsGetTheSameReplies()
     {
         play(session);

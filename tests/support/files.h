@@ -5,10 +5,12 @@
 
 #include <memory>
 
-/// The station's files, in its working directory: what it remembers, and the temperature record.
+/// The station's files, in its working directory: what it remembers, the temperature record, the journal, and
+/// the journal with every byte of the link.
 inline const QString stateFile = QStringLiteral("NelvoCurrentStat.dat");
 inline const QString recordFile = QStringLiteral("TemperatureRec.dat");
 inline const QString journalFile = QStringLiteral("NelvoJournal.log");
+inline const QString wireFile = QStringLiteral("NelvoWire.log");
 
 /// Makes the file `name` hold `bytes`; ends the test program when that fails.
 void putFile(const QString& name, const QByteArray& bytes);

@@ -6,7 +6,11 @@
 
 QStringList journalEvents(const QStringList& left)
 {
-    const QString name = QStringLiteral("NelvoJournal.log");
+    return journalEventsOf(journalFile, left);
+}
+
+QStringList journalEventsOf(const QString& name, const QStringList& left)
+{
     QStringList found;
     for (const QByteArray& text : fileText(name).split('\n')) {
         const QString event = QString::fromUtf8(text).section(u'\t', 2).replace(u'\t', u' ');
