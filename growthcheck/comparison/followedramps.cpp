@@ -75,7 +75,8 @@ void FollowedRamps::takeRefusal(const RecordedEvent& event)
 void FollowedRamps::takeSetPoint(const RecordedEvent& event)
 {
     const int channel = event.channel();
-    if (channel < 0) {
+    const bool isSent = event.value("link") != QLatin1String("down");
+    if (channel < 0 || !isSent) {
         return;
     }
     Cell& cell = cells.at(static_cast<size_t>(channel));

@@ -91,6 +91,7 @@ private:
     void journalTick();
     void journalState();
     void journalCell(const char* kind, int ch, const JournalFields& fields);
+    JournalField linkField() const;
 
     // shutter/
     void setupShutter();

@@ -5,6 +5,7 @@
 #include "app/mbemain.h"
 #include "base/awakeclock.h"
 #include "base/wallclock.h"
+#include "gpib/gpib.h"
 #include "journal/journal.h"
 #include "journal/linkjournal.h"
 
@@ -73,6 +74,12 @@ void MBEMain::journalState()
 void MBEMain::journalCell(const char* kind, int ch, const JournalFields& fields)
 {
     journal->write(kind, JournalFields{{"cell", QLatin1String(Channels::list[ch].name)}} + fields);
+}
+
+// Whether what goes out now has a connection to go over.
+JournalField MBEMain::linkField() const
+{
+    return {"link", gpib->isUp() ? QStringLiteral("up") : QStringLiteral("down")};
 }
 
 void MBEMain::journalTick()

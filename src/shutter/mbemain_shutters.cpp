@@ -128,5 +128,5 @@ void MBEMain::ActionShutter()
     waitingShutters.clear();
     journal->write("shutters",
         {{"open", shutterLetters(currentShutterState)}, {"waited-ms", QString::number(waitedMs)},
-            {"link", gpib->isUp() ? QStringLiteral("up") : QStringLiteral("down")}});
+            linkField()});
 }

@@ -114,7 +114,7 @@ bool MBEMain::rampStep(int ch)
     const double setPoint = ramp.step(targetOf(ch));
     setTMP(static_cast<unsigned char>(ch), setPoint);
     setPointLabels[ch]->setText(QString::number(setPoint, 'g', 6));
-    journalCell("set-point", ch, {{"deg-c", journalNumber(setPoint)}});
+    journalCell("set-point", ch, {{"deg-c", journalNumber(setPoint)}, linkField()});
     if (!ramp.cellRunning) {
         stopCell(ch);
         journalCell("ramp-end", ch, {{"why", QStringLiteral("reached")}});

@@ -121,6 +121,9 @@ private slots:
         const QString setPoint = "110.1 set-point cell=Ga;deg-c=60"_s;
         change("another set point", setPoint, "110.1 set-point cell=Ga;deg-c=59.9"_s,
             {"set-point-differs step 1 pass 2 Ga"_s});
+        change("a set point that a link up has sent", setPoint, setPoint + ";link=up"_s, {});
+        change("a set point that a link down has not", setPoint, setPoint + ";link=down"_s,
+            {"set-point-missing step 1 pass 2 Ga"_s});
         change("a late set point", setPoint, "114.1 set-point cell=Ga;deg-c=60"_s,
             {"set-point-late step 1 pass 2 Ga"_s});
         change("a ramp not begun", "0.01 ramp cell=Ga;from=59;to=60;minutes=0.166667;rate=6"_s, QString(),

@@ -133,12 +133,30 @@ private slots:
         DrivenClock::advance(1);
         QVERIFY(station->round());
         QVERIFY(station->round());
-        QCOMPARE(journalEvents({"late-tick"_s}), QStringList({"set-point cell=Ga deg-c=130"_s}));
+        QCOMPARE(journalEvents({"late-tick"_s}), QStringList({"set-point cell=Ga deg-c=130 link=up"_s}));
         DrivenClock::advance(60000);
         QVERIFY(station->round());
         QVERIFY(station->round());
         QCOMPARE(journalEvents({"late-tick"_s, "minute"_s}),
-            QStringList({"set-point cell=Ga deg-c=160"_s, "ramp-end cell=Ga why=reached"_s}));
+            QStringList({"set-point cell=Ga deg-c=160 link=up"_s, "ramp-end cell=Ga why=reached"_s}));
+    }
+
+    void aSetPointThatGoesNowhereIsToldAsSuch()
+    {
+        station->close();
+        Station::storeInUse({1});
+        QVERIFY(station->open());
+        station->answers[1] = Wire::reading(100.0, 1);
+        QVERIFY(station->round());
+        station->pressRun(1, "160"_s, "2"_s);
+        station->click(cell("TCActive", 1)); // else a reading would be awaited for ever
+        station->adapter.cut();
+        QTRY_VERIFY(fileText(journalFile).contains("\tlost\t"));
+        journalEvents();
+        DrivenClock::advance(1);
+        station->tick(Station::emptyRound);
+        QCOMPARE(
+            journalEvents().filter("set-point "_s), QStringList({"set-point cell=Ga deg-c=130 link=down"_s}));
     }
 
     void refusedAndStoppedRampsAreTold()
