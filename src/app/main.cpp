@@ -50,13 +50,12 @@ int answerWithoutStation(int argc, char* argv[], Task task, const QStringList& a
     return answer.status;
 }
 
-/// Nothing has been sent yet, and nothing will be: the journal and a box say why.
+/// Nothing has been sent yet, and nothing will be: the journal and a box say why. It is no run that ends: how
+/// the last one did is for the next start to tell.
 int endForMistake(const QString& mistake)
 {
-    Journal journal;
-    journal.write("no-start", {{"reason", mistake}});
+    Journal().write("no-start", {{"reason", mistake}});
     QMessageBox::critical(nullptr, QStringLiteral("Nelvo"), mistake);
-    journal.write("exit");
     return 1;
 }
 

@@ -16,9 +16,10 @@ namespace {
 
 constexpr qint64 minuteMs = 60000;
 
-// How the run before this one ended, by what the journal has last.
-QString lastRun(const std::optional<JournalLine>& last)
+// How the run before this one ended, by what the journal has last. A start that failed was no run.
+QString lastRun(const Journal& journal)
 {
+    const std::optional<JournalLine> last = journal.lastLine(QStringLiteral("no-start"));
     if (!last) {
         return QStringLiteral("none");
     }
@@ -48,7 +49,7 @@ void MBEMain::setupJournal()
     journal->write("start",
         {{"version", QStringLiteral(NELVO_VERSION)}, {"adapter", adapterAddress()},
             {"language", tr("English", "the name of the language of these texts")},
-            {"folder", QDir::currentPath()}, {"last-run", lastRun(journal->lastLine())}});
+            {"folder", QDir::currentPath()}, {"last-run", lastRun(*journal)}});
     connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { journal->write("exit"); });
     nextMinuteMs = WallClock::nowMs() + minuteMs;
 }

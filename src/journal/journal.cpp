@@ -31,7 +31,7 @@ void Journal::copyTo(Journal& other)
     other.startMs = startMs;
 }
 
-std::optional<JournalLine> Journal::lastLine() const
+std::optional<JournalLine> Journal::lastLine(const QString& passedOver) const
 {
     constexpr qint64 longestEnd = qint64{64} * 1024;
     QFile file(fileName);
@@ -41,7 +41,8 @@ std::optional<JournalLine> Journal::lastLine() const
     file.seek(qMax<qint64>(0, file.size() - longestEnd));
     const QList<QByteArray> lines = file.readAll().split('\n');
     for (int i = lines.size() - 1; i >= 0; --i) {
-        if (std::optional<JournalLine> line = readJournalLine(lines[i])) {
+        std::optional<JournalLine> line = readJournalLine(lines[i]);
+        if (line && line->kind != passedOver) {
             return line;
         }
     }

@@ -30,8 +30,9 @@ public:
     /// this one's start.
     void copyTo(Journal& other);
 
-    /// The last whole line of the file as it stands; none when there is no file or no line.
-    std::optional<JournalLine> lastLine() const;
+    /// The last whole line of the file as it stands, lines of the kind `passedOver` not counted; none when
+    /// there is no file or no line.
+    std::optional<JournalLine> lastLine(const QString& passedOver = QString()) const;
 
     void write(const char* kind, const JournalFields& fields = {});
 

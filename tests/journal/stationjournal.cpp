@@ -1,5 +1,6 @@
 // What the journal tells of a station at work, as whole stories.
 
+#include "journal/journal.h"
 #include "support/files.h"
 #include "support/journalevents.h"
 #include "support/stationtest.h"
@@ -36,17 +37,24 @@ private slots:
     void theNextStartTellsHowTheLastRunEnded_data()
     {
         QTest::addColumn<bool>("ended");
-        QTest::newRow("broken off") << false;
-        QTest::newRow("ended") << true;
+        QTest::addColumn<bool>("failedToStart");
+        QTest::newRow("broken off") << false << false;
+        QTest::newRow("ended") << true << false;
+        QTest::newRow("broken off, then a start that failed") << false << true;
+        QTest::newRow("ended, then a start that failed") << true << true;
     }
 
     void theNextStartTellsHowTheLastRunEnded()
     {
         QFETCH(bool, ended);
+        QFETCH(bool, failedToStart);
         if (ended) {
             QMetaObject::invokeMethod(qApp, "aboutToQuit");
         }
         station->close();
+        if (failedToStart) {
+            Journal().write("no-start", {{"reason", "adaptor=10"_s}});
+        }
         QVERIFY(station->open());
         const QString start = journalEvents().filter("start "_s).last();
         QVERIFY2(start.endsWith(ended ? "last-run=ended"_s : "last-run=broken off"_s), qPrintable(start));

@@ -38,6 +38,17 @@ HandledStation::HandledStation(const QStringList& environment, const QStringList
 
 bool HandledStation::isUp()
 {
+    return does({"status"_s});
+}
+
+bool HandledStation::dismissesBox()
+{
+    return does({"dismiss"_s});
+}
+
+// Asks until it can be done.
+bool HandledStation::does(const QStringList& words)
+{
     if (hands == nullptr && !server.waitForNewConnection(patienceMs)) {
         return false;
     }
@@ -45,7 +56,7 @@ bool HandledStation::isUp()
     QElapsedTimer timer;
     timer.start();
     QString answer;
-    while (!tryToAsk({"status"_s}, answer)) {
+    while (!tryToAsk(words, answer)) {
         if (timer.elapsed() > patienceMs) {
             return false;
         }

@@ -27,6 +27,8 @@ public:
 
     /// False when its window does not come up within 20 s.
     bool isUp();
+    /// Dismisses the box that a start shows which fails; false when there is none within 20 s.
+    bool dismissesBox();
     /// A sign of life: the window answers.
     bool answers();
 
@@ -51,6 +53,7 @@ public:
 private:
     QString ask(const QStringList& words);
     bool tryToAsk(const QStringList& words, QString& answer);
+    bool does(const QStringList& words);
 
     QLocalServer server;
     std::unique_ptr<Process> nelvo;

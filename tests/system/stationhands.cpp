@@ -1,12 +1,14 @@
 // The shipped program under an operator's hands: it answers whatever the link does, and ends with its window.
 
 #include "support/files.h"
+#include "support/journalevents.h"
 #include "support/scriptedadapter.h"
 #include "support/station.h"
 #include "support/testmain.h"
 #include "system/handledstation.h"
 
 #include <QFile>
+#include <QRegularExpression>
 
 using namespace TestText;
 
@@ -105,6 +107,26 @@ private slots:
         station->click("AllCloseB"_s);
         expectAnAnsweredClick();
         expectSilence();
+    }
+
+    void aStartThatFailsHidesNoCrash()
+    {
+        QFile::remove(journalFile);
+        station = std::make_unique<HandledStation>();
+        QVERIFY(station->isUp());
+        station->process().kill();
+        station.reset();
+        station = std::make_unique<HandledStation>(QStringList{"NELVO_ADAPTER=127.0.0.9 "_s});
+        QVERIFY(station->dismissesBox());
+        QCOMPARE(station->process().exitCode(), 1);
+        station.reset();
+        station = std::make_unique<HandledStation>();
+        QVERIFY(station->isUp());
+        const QStringList starts = journalEvents().filter(QRegularExpression("^(no-)?start "_s));
+        QCOMPARE(starts.size(), 3);
+        QVERIFY(starts[0].endsWith("last-run=none"_s));
+        QVERIFY(starts[1].startsWith("no-start "_s));
+        QVERIFY2(starts[2].endsWith("last-run=broken off"_s), qPrintable(starts[2]));
     }
 
     void looksTheSameEverywhere()

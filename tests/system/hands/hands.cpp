@@ -74,11 +74,15 @@ void Hands::answerRequests()
 
 QString Hands::answer(const QStringList& words)
 {
+    const QString& verb = words[0];
+    if (verb == QLatin1String("dismiss")) {
+        QWidget* box = QApplication::activeModalWidget();
+        return box != nullptr && box->close() ? ok() : error(QStringLiteral("no box"));
+    }
     QMainWindow* window = stationWindow();
     if (window == nullptr || !window->isVisible()) {
         return error(QStringLiteral("no window yet"));
     }
-    const QString& verb = words[0];
     if (verb == QLatin1String("status")) {
         return ok(window->statusBar()->currentMessage());
     }

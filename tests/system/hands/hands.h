@@ -12,8 +12,9 @@ class QWidget;
 ///
 /// A request is a verb and its words, tabs between: "click NAME", "type NAME TEXT", "text NAME", "style
 /// NAME", "where NAME" (its middle on the screen: x, a blank, y), "status", "widgets" (the style that they
-/// are drawn in), "close" (the window), "clock" (what the system's clock says, ms since the epoch), "load
-/// FILE", "grab FILE". The answer is "ok" and what was asked for, or "error" and why.
+/// are drawn in), "close" (the window), "dismiss" (the box that wants an answer), "clock" (what the system's
+/// clock says, ms since the epoch), "load FILE", "grab FILE". The answer is "ok" and what was asked for, or
+/// "error" and why.
 class Hands : public QObject
 {
     Q_OBJECT
