@@ -22,6 +22,19 @@ QString offsetText(int offsetSec)
     return QString::asprintf("%c%02d:%02d", offsetSec < 0 ? '-' : '+', minutes / 60, minutes % 60);
 }
 
+// Control characters, and what some editors and readers take for a line end.
+bool isControl(ushort code)
+{
+    return code < 0x20 || (code >= 0x7F && code < 0xA0) || code == 0x2028 || code == 0x2029;
+}
+
+// Two digits, or four where two are not enough.
+QString codeText(ushort code)
+{
+    return code <= 0xFF ? QStringLiteral("\\x%1").arg(code, 2, 16, QLatin1Char('0'))
+                        : QStringLiteral("\\u%1").arg(code, 4, 16, QLatin1Char('0'));
+}
+
 QString escaped(const QString& value)
 {
     QString text;
@@ -29,13 +42,24 @@ QString escaped(const QString& value)
     for (const QChar character : value) {
         if (character == QLatin1Char('\\')) {
             text += QLatin1String("\\\\");
-        } else if (character.unicode() < 0x20 || character.unicode() == 0x7F) {
-            text += QStringLiteral("\\x%1").arg(character.unicode(), 2, 16, QLatin1Char('0'));
+        } else if (isControl(character.unicode())) {
+            text += codeText(character.unicode());
         } else {
             text += character;
         }
     }
     return text;
+}
+
+// The character that `digits` hexadecimal digits at `from` are the number of.
+std::optional<QChar> codeAt(const QString& text, int from, int digits)
+{
+    bool isNumber = false;
+    const uint code = text.mid(from, digits).toUInt(&isNumber, 16);
+    if (!isNumber || from + digits > text.size()) {
+        return std::nullopt;
+    }
+    return QChar(code);
 }
 
 std::optional<QString> unescaped(const QString& text)
@@ -48,17 +72,21 @@ std::optional<QString> unescaped(const QString& text)
             continue;
         }
         const QChar next = i + 1 < text.size() ? text[i + 1] : QChar();
-        bool isCode = false;
-        const int code = text.mid(i + 2, 2).toInt(&isCode, 16);
         if (next == QLatin1Char('\\')) {
             value += next;
             i += 1;
-        } else if (next == QLatin1Char('x') && i + 4 <= text.size() && isCode) {
-            value += QChar(code);
-            i += 3;
-        } else {
+            continue;
+        }
+        const int digits = next == QLatin1Char('x') ? 2 : 4;
+        const std::optional<QChar> code = codeAt(text, i + 2, digits);
+        // Four digits are for what is written so, and never for half a character.
+        const bool isKnown
+            = next == QLatin1Char('x') || (next == QLatin1Char('u') && code && isControl(code->unicode()));
+        if (!code || !isKnown) {
             return std::nullopt;
         }
+        value += *code;
+        i += 1 + digits;
     }
     return value;
 }

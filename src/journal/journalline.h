@@ -39,8 +39,9 @@ struct JournalLine
     QString value(const QString& name) const;
 };
 
-/// The line as text, UTF-8, ended by LF. Tabs, line ends and backslashes in values are escaped, so that an
-/// event is one line whatever is in it.
+/// The line as text, UTF-8, ended by LF. Control characters and backslashes in values are escaped, the line
+/// and paragraph separators of Unicode, too, so that an event is one line whatever is in it and whoever
+/// reads it.
 QByteArray journalText(const JournalLine& line);
 
 /// Takes a line of text, with or without its line end, to pieces; nothing for one that is no journal line,

@@ -47,6 +47,38 @@ private slots:
         QCOMPARE(read->systemMs, qint64(0));
     }
 
+    // Not for a program either that takes U+0085 or U+2028 for a line end.
+    void noLineEndIsLeft_data()
+    {
+        QTest::addColumn<QString>("character");
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("LF") << QString(QChar(0x0A)) << QByteArray("\\x0a");
+        QTest::newRow("0x1F") << QString(QChar(0x1F)) << QByteArray("\\x1f");
+        QTest::newRow("blank") << QString(QChar(0x20)) << QByteArray(" ");
+        QTest::newRow("0x7E") << QString(QChar(0x7E)) << QByteArray("~");
+        QTest::newRow("DEL") << QString(QChar(0x7F)) << QByteArray("\\x7f");
+        QTest::newRow("0x80") << QString(QChar(0x80)) << QByteArray("\\x80");
+        QTest::newRow("next line") << QString(QChar(0x85)) << QByteArray("\\x85");
+        QTest::newRow("0x9F") << QString(QChar(0x9F)) << QByteArray("\\x9f");
+        QTest::newRow("0xA0") << QString(QChar(0xA0)) << QByteArray("\xC2\xA0");
+        QTest::newRow("0x2027") << QString(QChar(0x2027)) << QByteArray("\xE2\x80\xA7");
+        QTest::newRow("line separator") << QString(QChar(0x2028)) << QByteArray("\\u2028");
+        QTest::newRow("paragraph separator") << QString(QChar(0x2029)) << QByteArray("\\u2029");
+        QTest::newRow("0x202A") << QString(QChar(0x202A)) << QByteArray("\xE2\x80\xAA");
+    }
+
+    void noLineEndIsLeft()
+    {
+        QFETCH(QString, character);
+        QFETCH(QByteArray, text);
+        JournalLine line;
+        line.kind = "load"_s;
+        line.fields = {{"file", character}};
+        const QByteArray whole = journalText(line);
+        QCOMPARE(whole.mid(whole.indexOf('=') + 1).chopped(1), text);
+        QCOMPARE(readJournalLine(whole)->value("file"_s), character);
+    }
+
     void everyValueComesBack_data()
     {
         QTest::addColumn<QString>("value");
@@ -111,6 +143,10 @@ private slots:
         QTest::newRow("a field without a name") << time + "\t1.000\texit\t=1";
         QTest::newRow("an escape that is none") << time + "\t1.000\tload\tfile=a\\n";
         QTest::newRow("an escape that was cut") << time + "\t1.000\tload\tfile=a\\x0";
+        QTest::newRow("a long escape that was cut") << time + "\t1.000\tload\tfile=a\\u202";
+        QTest::newRow("an escape of no number") << time + "\t1.000\tload\tfile=a\\u20zz";
+        QTest::newRow("an escape of a negative number") << time + "\t1.000\tload\tfile=a\\x-1";
+        QTest::newRow("an escape of half a character") << time + "\t1.000\tload\tfile=a\\ud83d";
         QTest::newRow("a backslash at the end") << time + "\t1.000\tload\tfile=a\\";
         QTest::newRow("a field that was cut") << time + "\t1.000\tset-point\tcel";
     }
