@@ -53,17 +53,17 @@ QVector<FaultCase> chosenCases(const Plan& plan)
 
 void printHead()
 {
-    std::printf("%-18s %7s %6s %8s %8s %8s %7s %9s %6s %6s %8s\n", "faults", "latency", "struck", "shutters",
-        "set pts", "readings", "wrong", "wrong for", "spells", "told", "tick");
+    std::printf("%-18s %7s %6s %8s %8s %8s %7s %9s %6s %6s %8s %8s\n", "faults", "latency", "struck",
+        "shutters", "set pts", "readings", "wrong", "wrong for", "spells", "told", "tick", "action");
 }
 
 void printCase(const FaultCase& tried, const FaultRun& run)
 {
     const Attribution& attribution = run.attribution();
-    std::printf("%-18s %4d ms %6d %8d %8d %8d %7d %7.1f s %6d %6d %5.1f ms\n", qPrintable(tried.name),
-        tried.latencyMs, run.faults(), run.wire().shutterCommands(), run.wire().setPoints(),
-        attribution.readings(), attribution.wrongReadings(), attribution.wrongSec(),
-        attribution.spells().size(), run.toldSpells(), run.worstTickMs());
+    std::printf("%-18s %4d ms %6d %8d %8d %8d %7d %7.1f s %6d %6d %5.1f ms %5.1f ms\n",
+        qPrintable(tried.name), tried.latencyMs, run.faults(), run.wire().shutterCommands(),
+        run.wire().setPoints(), attribution.readings(), attribution.wrongReadings(), attribution.wrongSec(),
+        attribution.spells().size(), run.toldSpells(), run.worstTickMs(), run.worstActionMs());
     std::fflush(stdout);
 }
 
@@ -81,6 +81,9 @@ int playAll()
             wrong = "the toolkit warns: "_s + warnings.first();
         }
         printCase(tried, run);
+        if (wrong.isEmpty()) {
+            wrong = run.slowness();
+        }
         if (!wrong.isEmpty()) {
             ++failed;
             std::printf("  DOES NOT HOLD: %s\n", qPrintable(wrong));

@@ -40,8 +40,7 @@ QString FaultRun::play(qint64 ms)
     startMs = DrivenClock::nowMs();
     while (DrivenClock::nowMs() - startMs < ms) {
         station.run(500 + random.below(3500));
-        act();
-        station.settle();
+        station.act([this] { act(); });
     }
     readings.finish(DrivenClock::nowMs() - startMs);
     readJournal();
@@ -58,6 +57,12 @@ QString FaultRun::play(qint64 ms)
 int FaultRun::toldSpells() const
 {
     return readings.toldSpells(told.value("readings-shifted"_s) + told.value("unasked-line"_s));
+}
+
+QString FaultRun::slowness() const
+{
+    const QString ticks = station.tickCosts().complaint("ticks"_s);
+    return ticks.isEmpty() ? station.actionCosts().complaint("actions"_s) : ticks;
 }
 
 int FaultRun::faults() const

@@ -23,7 +23,10 @@ public:
     /// How many spells of wrong readings the journal told within a round.
     int toldSpells() const;
     int faults() const;
-    double worstTickMs() const { return station.worstTickMs(); }
+    double worstTickMs() const { return station.tickCosts().worstMs(); }
+    double worstActionMs() const { return station.actionCosts().worstMs(); }
+    /// What took too long too often; empty when nothing did.
+    QString slowness() const;
 
     void cameFromStation(const QByteArray& bytes) override;
     void linkGone() override { check.linkGone(); }

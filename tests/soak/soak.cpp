@@ -1,8 +1,10 @@
 // Days of a station at work in minutes: the real window at the simulated chamber, an operator who plays at
 // random, and a model of the rules that knows every byte to come.
 //
-// soak [--hours N] [--seed N] [--window-hours N]: N hours of station time, a new window, in the other
-// language, every so many. Ends with status 1 at the first difference from the rules.
+// soak [--hours N] [--seed N] [--window-hours N] [--most-growth PERCENT]: N hours of station time, a new
+// window, in the other language, every so many. Ends with status 1 at the first difference from the rules,
+// when too many ticks or actions were slow, and when the memory grew by more than PERCENT since the chart was
+// full or, in a run too short for that, since the first window was closed.
 
 #include "soak/randomoperator.h"
 #include "soak/screen.h"
@@ -17,6 +19,7 @@
 #include <QTabWidget>
 #include <QTranslator>
 
+#include <algorithm>
 #include <cstdio>
 
 using namespace TestText;
@@ -27,12 +30,14 @@ constexpr qint64 hourMs = 3600000;
 constexpr qint64 dayMs = 24 * hourMs;
 // By now the chart has as many points as it keeps: 200,000 of a round each.
 constexpr qint64 fullChartMs = 25 * hourMs;
+constexpr double anyGrowth = 1e9; // percent
 
 struct Plan
 {
     quint64 seed = 1;
     qint64 totalMs = 0;
     qint64 windowMs = 0;
+    double mostGrowth = anyGrowth; // percent
 };
 
 // Replies that are late, come twice, in pieces or as something else, each once in a thousand; none that would
@@ -60,7 +65,7 @@ public:
     {
     }
 
-    /// False at the first difference from the rules.
+    /// False at the first difference from the rules, and when it took too much time or memory.
     bool run()
     {
         for (int window = 0; passedMs() < plan.totalMs && model.divergence().isEmpty(); ++window) {
@@ -68,7 +73,7 @@ public:
         }
         tellFigures("end");
         if (model.divergence().isEmpty()) {
-            return true;
+            return isCheap();
         }
         std::printf("DIVERGED: %s\n", qPrintable(model.divergence()));
         for (const QString& action : hands.latest()) {
@@ -80,6 +85,32 @@ public:
 private:
     qint64 passedMs() const { return DrivenClock::nowMs() - startMs; }
 
+    bool isCheap() const
+    {
+        QStringList complaints{
+            station.tickCosts().complaint("ticks"_s), station.actionCosts().complaint("actions"_s)};
+        if (growth(mostMb) > plan.mostGrowth) {
+            complaints.append("the memory grew by %1 %"_s.arg(growth(mostMb)));
+        }
+        complaints.removeAll(QString());
+        for (const QString& complaint : complaints) {
+            std::printf("TOO MUCH: %s\n", qPrintable(complaint));
+        }
+        return complaints.isEmpty();
+    }
+
+    // The chart is full or, in short runs, the first window is closed.
+    void noteConstantMemory()
+    {
+        if (constantMb == 0.0) {
+            constantMb = residentMb();
+            mostMb = 0.0;
+        }
+    }
+
+    // In percent, since it was to be constant.
+    double growth(double mb) const { return constantMb > 0.0 ? 100.0 * (mb / constantMb - 1.0) : 0.0; }
+
     void playWindow(const Language& language)
     {
         QTranslator translator;
@@ -88,17 +119,20 @@ private:
         station.open();
         station.window().show();
         const qint64 openedMs = passedMs();
+        if (openedMs == 0) {
+            tellFigures("start");
+        }
         bool isFull = false;
         while (passedMs() - openedMs < plan.windowMs && passedMs() < plan.totalMs && hold()) {
             rest(pauseMs());
-            noteWorstTick();
+            noteCostliest(station.hadCostliestTick(), beforeWorstTick);
             if (hold()) {
-                hands.act();
-                station.settle();
+                station.act([this] { hands.act(); });
+                noteCostliest(station.wasCostliestAction(), worstAction);
             }
             if (!isFull && passedMs() - openedMs > fullChartMs) {
                 isFull = true;
-                fullMb = residentMb();
+                noteConstantMemory();
                 tellFigures("chart full");
             }
             if (passedMs() >= nextTellMs) {
@@ -109,6 +143,8 @@ private:
         }
         checkRecord();
         station.close();
+        noteConstantMemory();
+        tellFigures("closed");
         QCoreApplication::removeTranslator(&translator);
     }
 
@@ -147,12 +183,11 @@ private:
         return model.divergence().isEmpty();
     }
 
-    // What was done before the costliest tick tells where its time went.
-    void noteWorstTick()
+    // What was done last before the costliest tick tells where its time went.
+    void noteCostliest(bool isCostliest, QString& after) const
     {
-        if (station.worstTickMs() > worstMs) {
-            worstMs = station.worstTickMs();
-            beforeWorst = hands.latest().isEmpty() ? QString() : hands.latest().last();
+        if (isCostliest && !hands.latest().isEmpty()) {
+            after = hands.latest().last();
         }
     }
 
@@ -169,12 +204,22 @@ private:
 
     void tellFigures(const char* when)
     {
+        const double mb = residentMb();
+        mostMb = std::max(mostMb, mb);
         std::printf("%-10s %7.2f h  actions %7d  set points %7d  shutter commands %7d  steps %7d  "
-                    "resident %7.1f MB (%+.2f %% since the chart was full)  worst tick %.1f ms after '%s'\n",
+                    "resident %7.1f MB (%+.2f %%, heap %.1f MB)",
             when, static_cast<double>(passedMs()) / hourMs, hands.actions(), model.cells.sentSetPoints(),
-            model.shutters.sentCommands(), model.program.startedSteps(), residentMb(),
-            fullMb > 0.0 ? 100.0 * (residentMb() / fullMb - 1.0) : 0.0, worstMs, qPrintable(beforeWorst));
+            model.shutters.sentCommands(), model.program.startedSteps(), mb, growth(mb), heapMb());
+        tellWorst("tick", station.tickCosts(), "after", beforeWorstTick);
+        tellWorst("action", station.actionCosts(), "which", worstAction);
+        std::printf("\n");
         std::fflush(stdout);
+    }
+
+    static void tellWorst(const char* what, const Costs& costs, const char* word, const QString& action)
+    {
+        std::printf("  worst %s %.1f ms (%.1f by the clock), %s '%s'", what, costs.worstMs(),
+            costs.worstWallMs(), word, qPrintable(action));
     }
 
     const Plan plan;
@@ -184,9 +229,10 @@ private:
     RandomOperator hands;
     const qint64 startMs;
     qint64 nextTellMs = dayMs;
-    double fullMb = 0.0;
-    double worstMs = 0.0;
-    QString beforeWorst;
+    double constantMb = 0.0; // from here on the memory is to stay as it is; 0 before
+    double mostMb = 0.0; // since then
+    QString beforeWorstTick;
+    QString worstAction;
 };
 
 Plan readPlan(const QStringList& arguments)
@@ -194,11 +240,13 @@ Plan readPlan(const QStringList& arguments)
     QCommandLineParser parser;
     parser.addOptions(
         {{"hours"_s, "of station time"_s, "n"_s, "2"_s}, {"seed"_s, "of everything"_s, "n"_s, "1"_s},
-            {"window-hours"_s, "until a new window"_s, "n"_s, "240"_s}});
+            {"window-hours"_s, "until a new window"_s, "n"_s, "48"_s},
+            {"most-growth"_s, "of memory, in percent"_s, "n"_s, QString::number(anyGrowth)}});
     parser.process(arguments);
     Plan plan;
     plan.seed = parser.value("seed"_s).toULongLong();
     plan.totalMs = static_cast<qint64>(parser.value("hours"_s).toDouble() * hourMs);
+    plan.mostGrowth = parser.value("most-growth"_s).toDouble();
     plan.windowMs = static_cast<qint64>(parser.value("window-hours"_s).toDouble() * hourMs);
     return plan;
 }

@@ -8,9 +8,6 @@
 #include <QSocketNotifier>
 #include <QTcpSocket>
 
-#include <algorithm>
-#include <ctime>
-
 namespace {
 
 // Turns of the event loop without traffic after which nothing more comes: what one turn hands to the system,
@@ -164,11 +161,12 @@ void DrivenChamber::close()
 
 void DrivenChamber::run(qint64 ms)
 {
+    hasCostliestTick = false;
     for (qint64 passed = 0; passed < ms; passed += tickMs) {
         DrivenClock::advance(tickMs);
-        const std::clock_t start = std::clock();
+        const Stopwatch time;
         tick();
-        worstMs = std::max(worstMs, 1000.0 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
+        hasCostliestTick = ticks.note(time) || hasCostliestTick;
     }
 }
 

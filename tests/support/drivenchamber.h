@@ -4,6 +4,7 @@
 #include "simulator/replayserver.h"
 
 #include "support/messagecapture.h"
+#include "support/processfigures.h"
 #include "support/stationwindow.h"
 #include "support/ticks.h"
 
@@ -58,11 +59,24 @@ public:
     void stand(qint64 ms);
     /// Lets arrive what is on its way.
     void settle();
+    /// Has `action` done, by the operator's hands, and lets arrive what it set off.
+    template <class Action> void act(Action action)
+    {
+        const Stopwatch time;
+        action();
+        settle();
+        hasCostliestAction = actions.note(time);
+    }
 
     /// Not where a recording is played.
     const Chamber::ChamberServer& chamber() const { return *server; }
-    /// The processor time that the costliest tick has taken so far, all that it set off included, in ms.
-    double worstTickMs() const { return worstMs; }
+    /// What the ticks have taken, all that they set off included, and the operator's actions; the chamber's
+    /// part is counted, too.
+    const Costs& tickCosts() const { return ticks; }
+    const Costs& actionCosts() const { return actions; }
+    /// Whether no action before the last one, or no tick before the last run(), took more of the processor.
+    bool wasCostliestAction() const { return hasCostliestAction; }
+    bool hadCostliestTick() const { return hasCostliestTick; }
 
 private:
     class Reads;
@@ -87,5 +101,8 @@ private:
     qint64 traffic = 0; // pieces of bytes that came or went
     bool isLinkUp = false;
     bool isUnread = false; // the station has still to take what was sent to it
-    double worstMs = 0.0;
+    Costs ticks{100.0, 10000};
+    Costs actions{500.0, 100}; // table edits take a tenth of a second each
+    bool hasCostliestTick = false;
+    bool hasCostliestAction = false;
 };
