@@ -3,7 +3,6 @@
 #include "app/adapteraddress.h"
 #include "app/conditions.h"
 #include "app/mbemain.h"
-#include "base/awakeclock.h"
 #include "base/wallclock.h"
 #include "gpib/gpib.h"
 #include "journal/journal.h"
@@ -87,7 +86,7 @@ void MBEMain::journalTick()
 {
     linkJournal->tick();
     const qint64 now = WallClock::nowMs();
-    const TimeWatch::Findings found = timeWatch.look({now, WallClock::systemMs(), sleptMs()});
+    const TimeWatch::Findings found = timeWatch.look({now, WallClock::systemMs(), WallClock::sleptMs()});
     const auto tell = [this](const char* kind, qint64 ms) {
         if (ms != 0) {
             journal->write(kind, {{"ms", QString::number(ms)}});

@@ -19,5 +19,6 @@ qint64 steppingMs()
 
 Source source = &carriedOnMs;
 Source systemSource = &steppingMs;
+Source sleepSource = &::sleptMs;
 
 } // namespace WallClock

@@ -17,6 +17,7 @@ qint64 steppingMs();
 
 extern Source source;
 extern Source systemSource;
+extern Source sleepSource; // how long the machine has slept, in milliseconds
 
 /// Now, in milliseconds since the epoch; never steps back. By this everything is timed.
 inline qint64 nowMs()
@@ -29,6 +30,13 @@ inline qint64 nowMs()
 inline qint64 systemMs()
 {
     return systemSource();
+}
+
+/// How many milliseconds the machine has slept since some moment before the program's start. Only for telling
+/// people.
+inline qint64 sleptMs()
+{
+    return sleepSource();
 }
 
 } // namespace WallClock

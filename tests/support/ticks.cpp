@@ -1,5 +1,6 @@
 #include "support/ticks.h"
 
+#include "base/awakeclock.h"
 #include "base/wallclock.h"
 
 #include <QCoreApplication>
@@ -10,10 +11,22 @@
 namespace {
 
 qint64 drivenNowMs = 0;
+qint64 steppedMs = 0; // the system's clock, beyond the steady one's time and sleep
+qint64 drivenSleptMs = 0;
 
 qint64 readDriven()
 {
     return drivenNowMs;
+}
+
+qint64 readSystem()
+{
+    return drivenNowMs + drivenSleptMs + steppedMs;
+}
+
+qint64 readSlept()
+{
+    return drivenSleptMs;
 }
 
 // The timer that the event is for, where it belongs to no other object.
@@ -64,14 +77,18 @@ QString FiredTimers::intervals() const
 DrivenClock::DrivenClock(qint64 nowMs)
 {
     drivenNowMs = nowMs;
+    steppedMs = 0;
+    drivenSleptMs = 0;
     WallClock::source = &readDriven;
-    WallClock::systemSource = &readDriven;
+    WallClock::systemSource = &readSystem;
+    WallClock::sleepSource = &readSlept;
 }
 
 DrivenClock::~DrivenClock()
 {
     WallClock::source = &WallClock::carriedOnMs;
     WallClock::systemSource = &WallClock::steppingMs;
+    WallClock::sleepSource = &sleptMs;
 }
 
 void DrivenClock::advance(qint64 ms)
@@ -82,6 +99,16 @@ void DrivenClock::advance(qint64 ms)
 void DrivenClock::set(qint64 nowMs)
 {
     drivenNowMs = nowMs;
+}
+
+void DrivenClock::stepSystem(qint64 ms)
+{
+    steppedMs += ms;
+}
+
+void DrivenClock::sleep(qint64 ms)
+{
+    drivenSleptMs += ms;
 }
 
 qint64 DrivenClock::nowMs()

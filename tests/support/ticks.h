@@ -50,6 +50,10 @@ public:
     static void advance(qint64 ms);
     static void set(qint64 nowMs);
     static qint64 nowMs();
+    /// Somebody sets the system's clock, by `ms`.
+    static void stepSystem(qint64 ms);
+    /// The machine sleeps for `ms`: only the system's clock goes on.
+    static void sleep(qint64 ms);
 };
 
 /// Calls the slot `slot` of `object` (public or not) `times` times.

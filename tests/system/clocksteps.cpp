@@ -2,6 +2,7 @@
 // point and no step is moved.
 
 #include "support/files.h"
+#include "support/journalevents.h"
 #include "support/panel.h"
 #include "support/testmain.h"
 #include "system/handledstation.h"
@@ -57,9 +58,11 @@ class ClockStepsTest : public QObject
 {
     Q_OBJECT
 
-    // Sets the clock and waits for signs of life: three more records and an answer from the window.
+    // Sets the clock and waits for signs of life: three more records and an answer from the window. The
+    // journal tells by how much it was set, and of no sleep.
     void step(int seconds)
     {
+        QFile::remove(journalFile);
         const qint64 before = station->systemClockMs();
         setClockBy(seconds);
         const bool isLong = qAbs(seconds) >= hourSec; // a second may pass meanwhile
@@ -67,6 +70,12 @@ class ClockStepsTest : public QObject
         const int lines = recordLines();
         QVERIFY(station->process().waitFor([lines](const QString&) { return recordLines() >= lines + 3; }));
         QVERIFY(station->answers());
+        qint64 toldMs = 0;
+        for (const QString& event : journalEvents().filter(QRegularExpression("^(clock-stepped|slept) "_s))) {
+            QVERIFY2(event.startsWith("clock-stepped ms="_s), qPrintable(event));
+            toldMs += event.section(u'=', 1).toLongLong();
+        }
+        QVERIFY2(qAbs(toldMs - 1000LL * seconds) < 300, qPrintable(QString::number(toldMs)));
     }
 
     std::unique_ptr<Chamber> chamber;
