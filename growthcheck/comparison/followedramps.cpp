@@ -75,15 +75,17 @@ void FollowedRamps::takeRefusal(const RecordedEvent& event)
 void FollowedRamps::takeSetPoint(const RecordedEvent& event)
 {
     const int channel = event.channel();
-    const bool isSent = event.value("link") != QLatin1String("down");
-    if (channel < 0 || !isSent) {
+    if (channel < 0) {
         return;
     }
     Cell& cell = cells.at(static_cast<size_t>(channel));
     ComparedSetPoint setPoint;
+    const bool isSent = event.value("link") != QLatin1String("down");
     setPoint.channel = channel;
-    setPoint.sentMs = event.ms;
-    setPoint.sentDegC = numberIn(event, "deg-c");
+    if (isSent) {
+        setPoint.sentMs = event.ms;
+        setPoint.sentDegC = numberIn(event, "deg-c");
+    }
     if (cell.ramp.cellRunning) {
         setPoint.dueMs = cell.ramp.rampNextMs;
         setPoint.plannedDegC = cell.ramp.step(cell.targetDegC);
@@ -91,6 +93,12 @@ void FollowedRamps::takeSetPoint(const RecordedEvent& event)
     step().setPoints.append(setPoint);
     if (setPoint.dueMs < 0) {
         // A ramp that began before the program goes on: nobody planned it.
+        return;
+    }
+    if (!isSent) {
+        tell(RunKinds::setPointMissing, step(), channel,
+            Words::tr("The set point %1 deg C was not sent: the link to the adapter was down.")
+                .arg(shown(setPoint.plannedDegC)));
         return;
     }
     if (shown(setPoint.sentDegC) != shown(setPoint.plannedDegC)) {

@@ -512,6 +512,10 @@ journal, what it did.</source>
         <translation>設定値 %1 ℃ は %2 秒前に送るはずでしたが、送られませんでした。</translation>
     </message>
     <message>
+        <source>The set point %1 deg C was not sent: the link to the adapter was down.</source>
+        <translation>設定値 %1 ℃ は送られませんでした。アダプターと接続がありません。</translation>
+    </message>
+    <message>
         <source>The row was edited while the program ran, %1 s after its start.</source>
         <translation>開始から %1 秒後、実行中に行が変更されました。</translation>
     </message>
