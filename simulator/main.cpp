@@ -97,7 +97,8 @@ int playRecording(const Chamber::Options& options, const Log& log)
     }
     QObject::connect(
         &server, &Chamber::ReplayServer::differed, qApp, [] { QCoreApplication::exit(statusDiffers); });
-    QObject::connect(&server, &Chamber::ReplayServer::clientLeft, qApp, &QCoreApplication::quit);
+    QObject::connect(&server, &Chamber::ReplayServer::clientLeft, qApp,
+        [&server] { QCoreApplication::exit(server.isOver() ? 0 : statusDiffers); });
     return QCoreApplication::exec();
 }
 

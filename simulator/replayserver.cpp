@@ -40,6 +40,10 @@ void ReplayServer::admit()
     connect(client, &QTcpSocket::readyRead, this, &ReplayServer::receive);
     connect(client, &QTcpSocket::disconnected, this, [this] {
         log("disconnected");
+        if (!isOver()) {
+            log("left at byte " + QByteArray::number(position) + " of "
+                + QByteArray::number(recording.commands.size()));
+        }
         emit clientLeft();
     });
     scheduleReplies();

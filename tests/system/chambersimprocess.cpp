@@ -1,5 +1,6 @@
 // The program chambersim itself, over the real socket.
 
+#include "support/files.h"
 #include "support/testmain.h"
 #include "system/process.h"
 
@@ -14,6 +15,13 @@ using namespace TestText;
 namespace {
 
 constexpr int patienceMs = 10000;
+
+// A station that connected and left.
+const QByteArray recording = "2026-11-21T09:41:07.123+09:00\t0.000\tstart\n"
+                             "2026-11-21T09:41:07.133+09:00\t0.010\tsent\tbytes=++eoi\\x0a\n"
+                             "2026-11-21T09:41:07.143+09:00\t0.020\treceived\tbytes=1\\x0d\\x0a\n"
+                             "2026-11-21T09:41:07.153+09:00\t0.030\tsent\tbytes=++auto 1\\x0a\n"
+                             "2026-11-21T09:41:08.123+09:00\t1.000\texit\n";
 
 // The real program, started on a free port unless the options say otherwise.
 class Chambersim
@@ -257,6 +265,74 @@ private slots:
             QCOMPARE(complaint.count('\n'), 1);
             QCOMPARE(chambersim.process.readAllStandardOutput(), QByteArray());
         }
+    }
+
+    void aRecordingIsPlayedToItsEnd()
+    {
+        putFile(wireFile, recording);
+        Chambersim chambersim(freePort({"--replay"_s, wireFile}));
+        QTcpSocket socket;
+        connectTo(socket, chambersim.port());
+        QCOMPARE(chambersim.event(), QByteArray("connected"));
+        socket.write("++eoi\n");
+        QCOMPARE(lineFrom(socket), QByteArray("1\r\n"));
+        socket.write("++auto 1\n");
+        QVERIFY(socket.waitForBytesWritten(patienceMs));
+        QCOMPARE(chambersim.event(), QByteArray("replayed to the end"));
+        socket.disconnectFromHost();
+        QVERIFY(chambersim.ends());
+        QCOMPARE(chambersim.process.exitCode(), 0);
+    }
+
+    void otherBytesThanRecordedAreStatus3()
+    {
+        putFile(wireFile, recording);
+        Chambersim chambersim(freePort({"--replay"_s, wireFile}));
+        QTcpSocket socket;
+        connectTo(socket, chambersim.port());
+        QCOMPARE(chambersim.event(), QByteArray("connected"));
+        socket.write("++eoi\n++auto 0\n");
+        QVERIFY(socket.waitForBytesWritten(patienceMs));
+        QCOMPARE(chambersim.event(), QByteArray("differs at byte 13 behind \"++eoi<0A>++auto \""));
+        QCOMPARE(chambersim.event(), QByteArray("the station sent \"0<0A>\""));
+        QCOMPARE(chambersim.event(), QByteArray("the recording has \"1<0A>\""));
+        QVERIFY(chambersim.ends());
+        QCOMPARE(chambersim.process.exitCode(), 3);
+    }
+
+    void leavingHalfWayIsStatus3()
+    {
+        putFile(wireFile, recording);
+        Chambersim chambersim(freePort({"--replay"_s, wireFile}));
+        QTcpSocket socket;
+        connectTo(socket, chambersim.port());
+        QCOMPARE(chambersim.event(), QByteArray("connected"));
+        socket.write("++eoi\n");
+        QCOMPARE(lineFrom(socket), QByteArray("1\r\n"));
+        socket.disconnectFromHost();
+        QVERIFY(chambersim.ends());
+        QCOMPARE(chambersim.event(), QByteArray("disconnected"));
+        QCOMPARE(chambersim.event(), QByteArray("left at byte 6 of 15"));
+        QCOMPARE(chambersim.process.exitCode(), 3);
+    }
+
+    void aRecordingThatCannotBePlayedIsOneLineAndStatus2_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("no bytes") << QByteArray("2026-11-21T09:41:07.123+09:00\t0.000\tstart\n");
+        QTest::newRow("no start") << recording.mid(recording.indexOf('\n') + 1);
+    }
+
+    void aRecordingThatCannotBePlayedIsOneLineAndStatus2()
+    {
+        QFETCH(QByteArray, text);
+        putFile(wireFile, text);
+        Chambersim chambersim(freePort({"--replay"_s, wireFile}));
+        QVERIFY(chambersim.ends());
+        QCOMPARE(chambersim.process.exitCode(), 2);
+        const QByteArray complaint = chambersim.process.readAllStandardError();
+        QVERIFY2(complaint.startsWith("chambersim: NelvoWire.log "), complaint);
+        QCOMPARE(complaint.count('\n'), 1);
     }
 
     void aPortInUseIsOneLineAndStatus1()
