@@ -112,6 +112,11 @@ void ScriptedAdapter::stopTaking()
     disconnect(client, &QTcpSocket::readyRead, this, nullptr);
 }
 
+bool ScriptedAdapter::hasFirstByte() const
+{
+    return client->bytesAvailable() == 1;
+}
+
 void ScriptedAdapter::cut()
 {
     if (client != nullptr) {

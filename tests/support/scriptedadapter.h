@@ -48,8 +48,10 @@ public:
     /// Sends `bytes` at once, to a program that is already connected; the caller turns the event loop.
     void post(const QByteArray& bytes);
 
-    /// From here on nothing is taken from the program; it stays connected.
+    /// From here on nothing more than one byte is taken from the program; it stays connected.
     void stopTaking();
+    /// Whether that byte has come: of what the program said next.
+    bool hasFirstByte() const;
     /// Cuts the connection; listening goes on.
     void cut();
 
