@@ -17,14 +17,24 @@ void Attribution::reading(bool isRight, qint64 nowMs)
         }
         isInSpell = spell.rightSince < Channels::count;
     }
-    if (isRight) {
+    if (!isRight) {
+        ++wrong;
+        begin(nowMs);
+    }
+    latestRound.append(nowMs);
+    if (latestRound.size() > Channels::count) {
+        latestRound.removeFirst();
+    }
+}
+
+void Attribution::begin(qint64 nowMs)
+{
+    if (isInSpell) {
         return;
     }
-    ++wrong;
-    if (!isInSpell) {
-        isInSpell = true;
-        all.append({nowMs, nowMs, 0, 0, 0});
-    }
+    isInSpell = true;
+    const qint64 sinceMs = latestRound.size() == Channels::count ? latestRound.first() : 0;
+    all.append({sinceMs, nowMs, nowMs, 0, 0, 0});
 }
 
 void Attribution::finish(qint64 nowMs)
@@ -48,7 +58,8 @@ int Attribution::toldSpells(const QVector<qint64>& toldMs) const
     int told = 0;
     for (int i = 0; i < all.size(); ++i) {
         const Spell& spell = all[i];
-        const qint64 since = i == 0 ? 0 : all[i - 1].latestMs;
+        // What was told of the spell before is nothing said of this one.
+        const qint64 since = i == 0 ? spell.sinceMs : std::max(spell.sinceMs, all[i - 1].latestMs);
         told += std::any_of(toldMs.begin(), toldMs.end(),
                     [&](qint64 ms) { return ms >= since && ms <= spell.roundMs; })
             ? 1

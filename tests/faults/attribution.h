@@ -10,6 +10,7 @@ public:
     /// A stretch of readings with wrong ones in it, and no whole round of right ones.
     struct Spell
     {
+        qint64 sinceMs; ///< a round of readings before the first; 0 when there were fewer
         qint64 fromMs;
         qint64 latestMs; ///< when the last wrong reading so far came
         qint64 roundMs; ///< when a round of readings had come since the first; 0 before that
@@ -27,12 +28,15 @@ public:
     const QVector<Spell>& spells() const { return all; }
     /// Time in spells, s.
     double wrongSec() const;
-    /// How many of the spells the journal told by the end of the round in which they began; the times of
-    /// what it told, in ms.
+    /// How many of the spells the journal told, within a round before the first wrong reading and a round
+    /// behind it; the times of what it told, in ms.
     int toldSpells(const QVector<qint64>& toldMs) const;
 
 private:
+    void begin(qint64 nowMs);
+
     QVector<Spell> all;
+    QVector<qint64> latestRound; // when the readings of the last round came
     bool isInSpell = false;
     int count = 0;
     int wrong = 0;

@@ -11,6 +11,7 @@ struct FaultCase
     QString name; ///< "lost 10 %"
     Chamber::FaultRates rates = {};
     int latencyMs = 0; ///< of every reply
+    int leastTold = 0; ///< of the spells of wrong readings, in percent
 
     bool has(Chamber::FaultKind kind) const { return rates.at(static_cast<size_t>(kind)) > 0.0; }
     /// The chamber of this case. Its cells are 111 deg C apart, so that a reading tells whose it is, even

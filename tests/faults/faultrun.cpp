@@ -42,16 +42,18 @@ QString FaultRun::play(qint64 ms)
         station.run(500 + random.below(3500));
         station.act([this] { act(); });
     }
+    const QString unsent = unsentCommand();
+    const QString dead = signOfLife();
     readings.finish(DrivenClock::nowMs() - startMs);
     readJournal();
-    QString wrong = check.wrong();
-    if (wrong.isEmpty() && !rejected.isEmpty()) {
-        wrong = "the chamber says: "_s + QString::fromLatin1(rejected);
+    const QString refused
+        = rejected.isEmpty() ? QString() : "the chamber says: "_s + QString::fromLatin1(rejected);
+    for (const QString& wrong : {check.wrong(), refused, unsent, dead, untoldFault(), untoldSpells()}) {
+        if (!wrong.isEmpty()) {
+            return wrong;
+        }
     }
-    if (wrong.isEmpty()) {
-        wrong = untoldFault();
-    }
-    return wrong.isEmpty() ? signOfLife() : wrong;
+    return {};
 }
 
 int FaultRun::toldSpells() const
@@ -172,6 +174,30 @@ QString FaultRun::signOfLife()
     station.click(cell("NS", 3));
     station.run(1000);
     return station.text(cell("NS", 3)) != before ? QString() : "the window does not answer"_s;
+}
+
+// What was commanded last has gone out, unless the bus is held for ever or the link is gone.
+QString FaultRun::unsentCommand()
+{
+    for (const FaultKind kind : {FaultKind::Lost, FaultKind::Silent, FaultKind::Cut, FaultKind::HalfOpen}) {
+        if (struck.value(Chamber::faultName(kind)) > 0) {
+            return {};
+        }
+    }
+    constexpr int patienceMs = 20000; // the latest reply takes 5 s
+    for (int ms = 0; ms < patienceMs && !check.isObeyed(); ms += 100) {
+        station.run(100);
+    }
+    return check.isObeyed() ? QString() : "the last shutter command never went out"_s;
+}
+
+QString FaultRun::untoldSpells() const
+{
+    const int spells = readings.spells().size();
+    if (100 * toldSpells() >= tried.leastTold * spells) {
+        return {};
+    }
+    return "the journal tells %1 of %2 spells of wrong readings"_s.arg(toldSpells()).arg(spells);
 }
 
 // What the journal must have said. A reply in pieces is whole when it is read; a wrong byte cannot be told.

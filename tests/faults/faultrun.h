@@ -40,6 +40,8 @@ private:
     void judgeReading();
     bool isAnothers(double degC) const;
     QString signOfLife();
+    QString unsentCommand();
+    QString untoldSpells() const;
     QString untoldFault() const;
     void readJournal();
 

@@ -29,6 +29,7 @@ void WireCheck::check(const Wire::Message& message)
         break;
     case Wire::Message::Shutters:
         ++commands;
+        latestMask = message.value;
         if (message.bytes != Wire::shutters(commanded)) {
             differ(QStringLiteral("a shutter command that was not commanded"), message.bytes);
         }

@@ -15,6 +15,8 @@ public:
     /// The operator commands these shutters, a bit a shutter.
     void command(int mask) { commanded = mask; }
     int commandedMask() const { return commanded; }
+    /// Whether the last shutter command on the wire is that of the commanded states.
+    bool isObeyed() const { return latestMask == commanded; }
     /// The operator starts a ramp, from the temperature that is shown to a target.
     void ramp(int channel, double fromDegC, double toDegC);
     /// Bytes of the station; the messages that are whole now.
@@ -40,6 +42,7 @@ private:
 
     QByteArray pending;
     int commanded = 0;
+    int latestMask = -1; // that was sent; none before
     std::array<Range, Channels::count> asked;
     QString difference;
     int commands = 0;
