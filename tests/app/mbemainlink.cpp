@@ -53,6 +53,7 @@ private slots:
     void init()
     {
         QFile::remove(stateFile);
+        QFile::remove(journalFile);
         qputenv("NELVO_ADAPTER", ownLoopbackAddress().toLatin1());
     }
 
@@ -98,6 +99,7 @@ private slots:
         const HeldTicks held;
         MBEMain window;
         QVERIFY(refusalIsThrough());
+        QTRY_VERIFY(fileText(journalFile).contains("\trefused\twhy="));
         clickEveryButton(window);
         callSlot(&window, "WatchTMP", 700);
         clickEveryButton(window);

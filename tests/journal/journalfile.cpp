@@ -4,6 +4,7 @@
 #include "journal/journal.h"
 
 #include "support/files.h"
+#include "support/ordinaryuser.h"
 #include "support/testmain.h"
 #include "support/testtext.h"
 #include "support/ticks.h"
@@ -241,6 +242,38 @@ private slots:
         QCOMPARE(lines[2].kind, "exit"_s);
         journal.write("exit");
         QCOMPARE(linesOf().size(), 4);
+    }
+
+    void aClosedFolderCostsTheLinesUntilItIsOpened()
+    {
+        AS_ORDINARY_USER();
+        Journal journal;
+        {
+            const ClosedFolder closed;
+            journal.write("start");
+            journal.write("minute");
+        }
+        QVERIFY(!QFile::exists(name));
+        journal.write("exit");
+        QCOMPARE(linesOf().size(), 2);
+        QCOMPARE(linesOf().first().kind, "lost-lines"_s);
+        QCOMPARE(linesOf().first().value("count"_s), "2"_s);
+        QCOMPARE(linesOf().last().kind, "exit"_s);
+    }
+
+    // A file that is there can be written on, but not put aside: it grows, and nothing is lost.
+    void aLargeFileInAClosedFolderIsWrittenOn()
+    {
+        AS_ORDINARY_USER();
+        putFile(name, QByteArray(static_cast<int>(Journal::largestFile), '\n'));
+        Journal journal;
+        {
+            const ClosedFolder closed;
+            journal.write("start");
+            journal.write("minute");
+        }
+        QVERIFY(!QFile::exists(name + ".1"_s));
+        QCOMPARE(linesOf().size(), 2);
     }
 
     void aPlaceThatCannotBeWrittenCostsNothing()

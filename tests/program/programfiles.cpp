@@ -2,6 +2,7 @@
 
 #include "support/files.h"
 #include "support/messagecapture.h"
+#include "support/ordinaryuser.h"
 #include "support/stationtest.h"
 #include "support/testmain.h"
 
@@ -129,6 +130,28 @@ private slots:
         program().loadFile(fname);
         const QString expected = "\"Can not open [\" \"%1\" \"]\""_s.arg(fname);
         QCOMPARE(capture.texts().filter("Can not open"_s), QStringList({expected, expected}));
+    }
+
+    void aClosedFolderKeepsItsProgramsAndTheTable()
+    {
+        AS_ORDINARY_USER();
+        putFile("old.dat"_s, defaultLine(3));
+        QVERIFY(QFile::setPermissions("old.dat"_s, QFileDevice::ReadOwner));
+        program().enter(0, "33"_s);
+        QStringList said;
+        {
+            const ClosedFolder closed;
+            MessageCapture capture;
+            program().saveFile("new.dat"_s);
+            program().saveFile("old.dat"_s);
+            said = capture.texts();
+        }
+        QCOMPARE(said.filter("Can not open"_s).size(), 2);
+        QVERIFY(!QFile::exists("new.dat"_s));
+        QCOMPARE(fileText("old.dat"_s), defaultLine(3));
+        QCOMPARE(program().time(0)->text(), "33"_s);
+        program().saveFile("new.dat"_s);
+        QCOMPARE(fileText("new.dat"_s).count('\n'), ProgramTab::rows);
     }
 
     void unfinishedSaveKeepsTheOldProgram()

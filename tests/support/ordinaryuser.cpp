@@ -1,12 +1,13 @@
 #include "support/ordinaryuser.h"
 
+#include <QDir>
+#include <QFile>
 #include <QtGlobal>
 
 #ifdef Q_OS_UNIX
 
 #include <QCoreApplication>
 #include <QDebug>
-#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -78,3 +79,14 @@ bool passesAsOrdinaryUser()
 }
 
 #endif
+
+ClosedFolder::ClosedFolder()
+{
+    QFile::setPermissions(QDir::currentPath(), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+}
+
+ClosedFolder::~ClosedFolder()
+{
+    QFile::setPermissions(
+        QDir::currentPath(), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+}

@@ -2,12 +2,15 @@
 
 #include "support/files.h"
 #include "support/journalevents.h"
+#include "support/ordinaryuser.h"
 #include "support/scriptedadapter.h"
 #include "support/station.h"
 #include "support/testmain.h"
 #include "system/handledstation.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 
 using namespace TestText;
@@ -19,6 +22,17 @@ const QStringList seed{"--seed"_s, "7"_s};
 QStringList words(const char* text)
 {
     return QString::fromLatin1(text).split(QLatin1Char(' '));
+}
+
+// Whether each folder on the way to it, and the file itself, lets others pass.
+bool isOpenToOthers(const QString& fileName)
+{
+    for (QFileInfo info(fileName); !info.isRoot(); info = QFileInfo(info.path())) {
+        if (!info.permission(QFileDevice::ExeOther)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 } // namespace
@@ -92,7 +106,7 @@ private slots:
         QVERIFY(station->isUp());
         QVERIFY(chamber.waitForText("disconnected"_s));
         QVERIFY(station->process().waitFor(
-            [](const QString&) { return fileText("NelvoJournal.log"_s).contains("\tlost\t"); }));
+            [](const QString&) { return fileText(journalFile).contains("\tlost\t"); }));
         station->click("AllCloseB"_s);
         station->click(cell("CS", 0));
         expectAnAnsweredClick();
@@ -102,10 +116,37 @@ private slots:
 
     void livesWithoutAnAdapter()
     {
+        QFile::remove(journalFile);
         station = std::make_unique<HandledStation>();
         QVERIFY(station->isUp());
+        QVERIFY(station->process().waitFor(
+            [](const QString&) { return fileText(journalFile).contains("\trefused\twhy="); }));
         station->click("AllCloseB"_s);
         expectAnAnsweredClick();
+        expectSilence();
+    }
+
+    void livesInAFolderThatCannotBeWritten()
+    {
+        if (mayWriteEverything() && !isOpenToOthers(nelvoProgram())) {
+            QSKIP("the programs are closed to others");
+        }
+        AS_ORDINARY_USER();
+        Chamber chamber(seed);
+        {
+            const ClosedFolder closed;
+            station = std::make_unique<HandledStation>();
+            QVERIFY(station->isUp());
+            station->click(cell("CS", 2));
+            QVERIFY(chamber.waitForText("shutters xxoxxxx"_s));
+            expectAnAnsweredClick();
+            QCOMPARE(QDir().entryList({"*Nelvo*"_s, recordFile}), QStringList());
+        }
+        station->click(cell("CS", 4)); // something to tell
+        QVERIFY(chamber.waitForText("shutters xxoxoxx"_s));
+        QVERIFY(station->process().waitFor(
+            [](const QString&) { return fileText(journalFile).contains("\tlost-lines\tcount="); }));
+        QVERIFY(station->process().waitFor([](const QString&) { return Station::records() > 1; }));
         expectSilence();
     }
 
