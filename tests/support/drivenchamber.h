@@ -102,7 +102,7 @@ private:
     bool isLinkUp = false;
     bool isUnread = false; // the station has still to take what was sent to it
     Costs ticks{100.0, 10000};
-    Costs actions{500.0, 100}; // table edits take a tenth of a second each
+    Costs actions{1500.0, 100}; // a row menu, with the table painted, takes a few hundred
     bool hasCostliestTick = false;
     bool hasCostliestAction = false;
 };
