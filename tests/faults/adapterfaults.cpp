@@ -100,8 +100,9 @@ private slots:
         station->adapter.send("\n"); // the end of what had none
         expectReadings();
         expectShutters();
-        QVERIFY(!journalEvents().filter("unasked-line"_s).isEmpty());
-        QVERIFY2(time.processorMs() < mostMs, qPrintable(QString::number(time.processorMs())));
+        QVERIFY(!journalEvents().filter("unasked-line line="_s).isEmpty());
+        qInfo("%.0f ms of the processor", time.processorMs());
+        QVERIFY(time.processorMs() < mostMs);
     }
 
     void anAdapterThatTakesNothingCostsNothing()
