@@ -16,19 +16,6 @@ namespace {
 const QString name = "settings.dat"_s;
 constexpr auto everything = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
 
-// While it lives, no file can be made in the working directory.
-class ClosedFolder
-{
-public:
-    ClosedFolder()
-    {
-        QFile::setPermissions(QDir::currentPath(), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
-    }
-    ~ClosedFolder() { QFile::setPermissions(QDir::currentPath(), everything); }
-    ClosedFolder(const ClosedFolder&) = delete;
-    ClosedFolder& operator=(const ClosedFolder&) = delete;
-};
-
 QStringList filesHere()
 {
     return QDir().entryList(QDir::Files | QDir::Hidden);
