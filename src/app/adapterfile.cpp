@@ -8,12 +8,12 @@
 
 namespace {
 
-class Texts
+class AdapterFileTexts
 {
     Q_DECLARE_TR_FUNCTIONS(AdapterFile)
 };
 
-const QString key = QStringLiteral("adapter");
+const QString adapterKey = QStringLiteral("adapter");
 constexpr int longestLine = 1000; // characters; what is longer is no setting
 
 bool isHost(const QString& text)
@@ -29,8 +29,9 @@ bool isHost(const QString& text)
 
 QString hostMistake(const QString& place, const QString& text)
 {
-    return isHost(text) ? QString()
-                        : Texts::tr("%1: \"%2\" is no host name and no IPv4 address.").arg(place, text);
+    return isHost(text)
+        ? QString()
+        : AdapterFileTexts::tr("%1: \"%2\" is no host name and no IPv4 address.").arg(place, text);
 }
 
 QString adapterFileName()
@@ -48,7 +49,7 @@ AdapterFile readAdapterFile(const QString& fileName)
     }
     const QString shownName = QDir::toNativeSeparators(fileName);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        return {{}, Texts::tr("%1 cannot be read.").arg(shownName)};
+        return {{}, AdapterFileTexts::tr("%1 cannot be read.").arg(shownName)};
     }
     AdapterFile found;
     QTextStream stream(&file);
@@ -60,9 +61,10 @@ AdapterFile readAdapterFile(const QString& fileName)
             continue;
         }
         const QString value = line.section(QLatin1Char('='), 1).trimmed();
-        if (line.section(QLatin1Char('='), 0, 0).trimmed() != key || !found.host.isEmpty()) {
+        if (line.section(QLatin1Char('='), 0, 0).trimmed() != adapterKey || !found.host.isEmpty()) {
             return {{},
-                Texts::tr("%1: \"%2\" is not understood. The one line there may be is \"adapter=HOST\".")
+                AdapterFileTexts::tr(
+                    "%1: \"%2\" is not understood. The one line there may be is \"adapter=HOST\".")
                     .arg(shownName, line)};
         }
         const QString mistake = hostMistake(shownName, value);

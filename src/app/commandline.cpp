@@ -7,7 +7,7 @@ namespace {
 constexpr int usualSeconds = 60;
 constexpr int mostSeconds = 3600;
 
-class Texts
+class CommandLineTexts
 {
     Q_DECLARE_TR_FUNCTIONS(CommandLine)
 };
@@ -51,7 +51,7 @@ QString versionText()
 
 QString helpText()
 {
-    return Texts::tr(
+    return CommandLineTexts::tr(
         "Nelvo, the operator's control station of an MBE growth chamber\n"
         "\n"
         "Nelvo [OPTION]...\n"
