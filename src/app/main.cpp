@@ -81,9 +81,9 @@ int main(int argc, char* argv[])
         return answerWithoutStation(argc, argv, task, arguments);
     }
 
-    setUpScale();
-    QApplication application(argc, argv);
     const Language& language = chooseLanguage(arguments);
+    setUpScale(language);
+    QApplication application(argc, argv);
     QTranslator translator;
     speak(language, translator);
     QTranslator dialogTranslator;

@@ -1,5 +1,7 @@
 #include "app/windowscale.h"
 
+#include "app/language.h"
+
 #include <QGuiApplication>
 #include <QScreen>
 #include <QStyle>
@@ -14,16 +16,26 @@
 
 namespace {
 
-// What the form has to have, in pixels at the scale 1: its width, and a chart of some height; with a frame of
-// Windows.
-constexpr double neededWidth = 1058 + 16;
-constexpr double neededHeight = 520 + 40;
+// A frame of Windows, both sides of it, in pixels at the scale 1.
+constexpr QSize frameSize(16, 40);
 
 } // namespace
 
-double scaleThatFits(double systemScale, QSize freePixels)
+// There is no font to measure the texts in before the scale is set: the test measures them.
+QSize neededFormSize(const Language& language)
 {
-    return std::min({systemScale, freePixels.width() / neededWidth, freePixels.height() / neededHeight});
+    constexpr int japaneseWidth = 1058;
+    constexpr int longestTextsWidth = 1230;
+    constexpr int height = 788;
+    return {&language == &japanese() ? japaneseWidth : longestTextsWidth, height};
+}
+
+double scaleThatFits(double systemScale, QSize freePixels, QSize formSize)
+{
+    const QSizeF needed = formSize + frameSize;
+    // A low chart can be read, if not well, and is no reason to draw all else smaller than at the scale 1.
+    const double forHeight = std::max(1.0, freePixels.height() / needed.height());
+    return std::min({systemScale, freePixels.width() / needed.width(), forHeight});
 }
 
 #ifdef Q_OS_WIN
@@ -41,12 +53,12 @@ QSize freePixels()
 
 } // namespace
 
-void setUpScale()
+void setUpScale(const Language& language)
 {
     QGuiApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     const double systemScale = GetDpiForSystem() / usualDpi;
-    const double scale = scaleThatFits(systemScale, freePixels());
+    const double scale = scaleThatFits(systemScale, freePixels(), neededFormSize(language));
     if (scale < systemScale && !qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) {
         // The toolkit multiplies the system's scale by it.
         qputenv("QT_SCALE_FACTOR", QByteArray::number(scale / systemScale));
@@ -55,7 +67,7 @@ void setUpScale()
 
 #else
 
-void setUpScale() { }
+void setUpScale(const Language& /*language*/) { }
 
 #endif
 

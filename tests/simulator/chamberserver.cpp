@@ -50,11 +50,24 @@ class Client
 public:
     explicit Client(const RunningChamber& chamber)
     {
-        QObject::connect(&socket, &QTcpSocket::readyRead, &socket, [this] { take(); });
+        takeWhatComes();
         socket.connectToHost(QHostAddress(QHostAddress::LocalHost), chamber.server.port());
         if (!QTest::qWaitFor([this] { return socket.state() == QAbstractSocket::ConnectedState; })) {
             qFatal("cannot connect");
         }
+    }
+
+    void takeWhatComes()
+    {
+        socket.setReadBufferSize(0);
+        QObject::connect(&socket, &QTcpSocket::readyRead, &socket, [this] { take(); });
+    }
+
+    // From now on all but a byte stays with the system.
+    void stopTaking()
+    {
+        socket.setReadBufferSize(1);
+        QObject::disconnect(&socket, &QTcpSocket::readyRead, &socket, nullptr);
     }
 
     void take()
@@ -134,7 +147,7 @@ private slots:
     {
         RunningChamber chamber;
         Client client(chamber);
-        client.socket.setReadBufferSize(1);
+        client.stopTaking();
         client.socket.write(QByteArray("++eos\n").repeated(3000000)); // three bytes back for six; 9 MB in all
         // Buffers on the way fill up until nothing moves, with most of the stream still here.
         qint64 left = -1;
@@ -147,7 +160,7 @@ private slots:
             },
             20000));
         QVERIFY2(left > 0, qPrintable(QString::number(left)));
-        client.socket.setReadBufferSize(0);
+        client.takeWhatComes();
         client.take();
         QVERIFY(client.gets(3000000));
     }
