@@ -25,7 +25,7 @@ constexpr QSize frameSize(16, 40);
 QSize neededFormSize(const Language& language)
 {
     constexpr int japaneseWidth = 1058;
-    constexpr int longestTextsWidth = 1230;
+    constexpr int longestTextsWidth = 1250;
     constexpr int height = 788;
     return {&language == &japanese() ? japaneseWidth : longestTextsWidth, height};
 }

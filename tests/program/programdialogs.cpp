@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QKeyEvent>
 #include <QStandardPaths>
 #include <QTimer>
 
@@ -147,8 +148,10 @@ private slots:
             QWidget* list = QApplication::activePopupWidget();
             return list != nullptr ? list : nameEdit;
         };
+        // The folder's name may have letters that the toolkit's simulated keyboard has not.
         for (const QChar character : elsewhere + "/picked.dat"_s) {
-            QTest::keyClicks(focus(), character);
+            QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(character));
+            QCoreApplication::sendEvent(focus(), &press);
         }
         QTest::keyClick(focus(), Qt::Key_Return);
         QTRY_VERIFY(!dialog->isVisible());
