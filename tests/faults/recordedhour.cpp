@@ -17,7 +17,7 @@ using namespace TestText;
 namespace {
 
 #ifdef NELVO_SHORT_HOUR
-constexpr qint64 hourMs = 600000; // the sanitizers take their time
+constexpr qint64 hourMs = 600000; // the sanitizers and Wine take their time
 #else
 constexpr qint64 hourMs = 3600000;
 #endif
