@@ -83,7 +83,7 @@ private slots:
     void dialogsDriveSaveAndLoad()
     {
         program().enter(0, "33"_s, "G"_s, "2"_s);
-        const QString fname = folder() + "/picked.dat"_s;
+        const QString fname = QDir::currentPath() + "/picked.dat"_s;
         program().click("Save");
         choose("saveDialog", fname);
         QCOMPARE(fileText(fname).count('\n'), ProgramTab::rows);
@@ -127,15 +127,15 @@ private slots:
     void aNameWithoutEndingIsSavedWhereItIsFoundAgain()
     {
         program().click("Save");
-        choose("saveDialog", folder() + "/plain"_s);
-        QCOMPARE(fileText(folder() + "/plain.dat"_s).count('\n'), ProgramTab::rows);
+        choose("saveDialog", QDir::currentPath() + "/plain"_s);
+        QCOMPARE(fileText("plain.dat"_s).count('\n'), ProgramTab::rows);
     }
 
     // The names of a folder that was not read yet come when the dialog has gone. A list of them would take
     // the operator's next click, "All Close" or "Stop" included.
     void noListOfNamesComesAfterTheDialog()
     {
-        const QString elsewhere = QDir::homePath() + "/elsewhere"_s;
+        const QString elsewhere = QDir::currentPath() + "/elsewhere"_s;
         QVERIFY(QDir().mkpath(elsewhere));
         putFile(elsewhere + "/picked.dat"_s, "\n");
         program().click("Load");
