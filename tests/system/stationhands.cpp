@@ -172,7 +172,13 @@ private slots:
 
     void looksTheSameEverywhere()
     {
+        // Where the toolkit would choose another style by itself. Windows has one of its own, and no such
+        // platform is packed for it.
+#ifdef Q_OS_WIN
+        station = std::make_unique<HandledStation>();
+#else
         station = std::make_unique<HandledStation>(QStringList{"QT_QPA_PLATFORM=minimal"_s});
+#endif
         QVERIFY(station->isUp());
         QCOMPARE(station->widgetStyle(), "fusion"_s);
     }
